@@ -1,0 +1,28 @@
+// The lines of the summary panel: one result of the model as a ready-made text.
+#pragma once
+
+#include "core/simulation_record.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace tav {
+
+inline constexpr std::size_t kSummaryLines = 10;
+
+using SummaryChoices = std::array<std::string_view, kSummaryLines>;
+
+// The ten choices that the panel shows for an animal type unless the user has made their own; all
+// "Blank" for a text that is no animal type.
+SummaryChoices DefaultSummaryChoices(std::string_view animalType);
+
+// The line of a choice such as "MP Balance", in metric or English units. A choice that does not fit
+// the animal type gives an "N/A" text, "Blank" and any unknown text an empty line.
+std::string SummaryResultText(const SimulationRecord& record, std::string_view choice, bool metric);
+
+// True when degraded protein falls so far short that energy estimates may be wrong: more than 20
+// g/day, and never for a young calf.
+bool DegradedProteinIsLimiting(const SimulationRecord& record);
+
+}  // namespace tav
