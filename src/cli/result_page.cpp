@@ -15,40 +15,44 @@ std::string Heading(const std::string& file) {
     return name + "\n" + std::string(CharacterCount(name), '=') + "\n\n";
 }
 
-std::string Days(int days) { return NumberText(days) + (days == 1 ? " day" : " days"); }
+std::string Counted(Single count, const std::string& unit) {
+    return NumberText(count) + " " + unit + (count == 1 ? "" : "s");
+}
 
 void AddAnimalRows(TextTable& table, const SimulationRecord& r) {
     const bool calf = r.AnimalType == kYoungCalf;
-    table.AddRow({"Age", NumberText(r.Age) + " months"});
-    table.AddRow({"Body weight", NumberText(calf ? r.CalfBodyWeight : r.BodyWeight) + " kg"});
+    table.AddRow({"  Age", Counted(r.Age, "month")});
+    table.AddRow({"  Body weight", NumberText(calf ? r.CalfBodyWeight : r.BodyWeight) + " kg"});
     table.AddRow(
-        {"Temperature", NumberText(calf ? r.CalfTemperature : r.Temperature) + " \u00B0C"});
+        {"  Temperature", NumberText(calf ? r.CalfTemperature : r.Temperature) + " \u00B0C"});
     if (calf) return;
-    table.AddRow({"Mature weight", NumberText(r.MatureWeight) + " kg"});
-    table.AddRow({"Condition score", NumberText(r.ConditionScore)});
-    table.AddRow({"Pregnant", r.DaysPregnant > 0 ? Days(r.DaysPregnant) : std::string("no")});
+    table.AddRow({"  Mature weight", NumberText(r.MatureWeight) + " kg"});
+    table.AddRow({"  Condition score", NumberText(r.ConditionScore)});
+    table.AddRow(
+        {"  Pregnant", r.DaysPregnant > 0 ? Counted(r.DaysPregnant, "day") : std::string("no")});
     if (r.AnimalType == kReplacementHeifer) {
-        table.AddRow({"Gain aimed at", r.UseTargetADG ? std::string("as her target weights ask")
-                                                      : NumberText(int{r.DesiredADG}) + " g/day"});
+        table.AddRow({"  Gain aimed at", r.UseTargetADG
+                                             ? std::string("as her target weights ask")
+                                             : NumberText(int{r.DesiredADG}) + " g/day"});
     }
     if (r.AnimalType == kLactatingCow) {
-        table.AddRow(
-            {"In milk", Days(r.DaysInMilk) + ", lactation " + NumberText(int{r.LactationNumber})});
-        table.AddRow({"Milk", NumberText(r.MilkProduction) + " kg/day"});
-        table.AddRow({"Fat, true protein, lactose", NumberText(r.MilkFat) + ", " +
-                                                        NumberText(r.MilkTrueProtein) + ", " +
-                                                        NumberText(r.Lactose) + " %"});
+        table.AddRow({"In milk", Counted(r.DaysInMilk, "day") + ", lactation " +
+                                     NumberText(int{r.LactationNumber})});
+        table.AddRow({"  Milk", NumberText(r.MilkProduction) + " kg/day"});
+        table.AddRow({"  Fat, true protein, lactose", NumberText(r.MilkFat) + ", " +
+                                                          NumberText(r.MilkTrueProtein) + ", " +
+                                                          NumberText(r.Lactose) + " %"});
     }
     if (r.Grazing) {
-        table.AddRow({"Grazing", DisplayText(r.Topography) + ", " + NumberText(r.Distance) +
-                                     " m, " + NumberText(int{r.Trips}) + " trips/day"});
+        table.AddRow({"  Grazing", DisplayText(r.Topography) + ", " + NumberText(r.Distance) +
+                                       " m, " + NumberText(int{r.Trips}) + " trips/day"});
     }
 }
 
 std::string AnimalBlock(const SimulationRecord& r) {
     std::string title = DisplayText(r.AnimalType);
     if (r.AnimalType != kYoungCalf) title += ", " + DisplayText(r.Breed);
-    TextTable table;
+    TextTable table("ll");
     AddAnimalRows(table, r);
     return title + "\n" + table.Text() + "\n";
 }
@@ -61,14 +65,14 @@ std::string RationBlock(const SimulationRecord& r) {
     const auto share = [&](Number amount) {
         return total > 0 ? FixedText((amount / total * 100).Value(), 1) : std::string("N/A");
     };
-    TextTable table;
+    TextTable table("lrr");
     table.AddRow({"Ration", "kg DM/day", "% of DM"});
     for (std::size_t i = 0; i < r.NumFeeds; ++i) {
         const FeedRecord& feed = r.Feeds[i];
         table.AddRow({"  " + DisplayText(feed.Name), FixedText(feed.Qty, 3), share(feed.Qty)});
     }
     table.AddRow({"  Total", FixedText(total.Value(), 3), share(total)});
-    return TextTable(table).Text() + "\n";
+    return table.Text() + "\n";
 }
 
 std::string SummaryBlock(const SimulationRecord& r) {
@@ -88,7 +92,7 @@ void AddBalance(TextTable& table, const std::string& what, const std::string& un
     const bool isShort =
         difference.front() == '-' && difference.find_first_of("123456789") != std::string::npos;
     table.AddRow(
-        {"  " + what, unit, text(supply), text(required), difference, isShort ? "short" : "     "});
+        {"  " + what, unit, text(supply), text(required), difference, isShort ? "short" : ""});
 }
 
 void AddEnergyAndProtein(TextTable& table, const SimulationRecord& r) {
@@ -127,9 +131,10 @@ std::string MineralUnit(const MineralRow& row) {
 }
 
 std::string BalanceBlock(const SimulationRecord& r) {
-    TextTable table;
-    table.AddRow({"Supply against requirement", "", "supplied", "required", "difference", "     "});
-    if (r.AnimalType == kYoungCalf) {
+    TextTable table("llrrrl");
+    table.AddRow({"Supply against requirement", "", "supplied", "required", "difference", ""});
+    const bool calf = r.AnimalType == kYoungCalf;
+    if (calf) {
         AddCalfEnergyAndProtein(table, r);
     } else {
         AddEnergyAndProtein(table, r);
@@ -137,8 +142,10 @@ std::string BalanceBlock(const SimulationRecord& r) {
     for (const MineralRow& row : r.MineralRows) {
         if (row.Name.empty()) continue;
         const bool vitamin = row.Name.starts_with("Vit ");
-        AddBalance(table, vitamin ? "Vitamin " + row.Name.substr(4) : row.Name + ", absorbed",
-                   MineralUnit(row), row.TAS, row.TAR, 2);
+        AddBalance(
+            table,
+            vitamin ? "Vitamin " + row.Name.substr(4) : row.Name + (calf ? "" : ", absorbed"),
+            MineralUnit(row), row.TAS, row.TAR, 2);
     }
     return table.Text();
 }

@@ -11,26 +11,21 @@ std::size_t CharacterCount(const std::string& text) {
 }
 
 std::string TextTable::Text() const {
-    std::vector<std::size_t> widths;
+    std::vector<std::size_t> widths(sides_.size(), 0);
     for (const auto& row : rows_) {
-        if (row.size() < 2) continue;
-        widths.resize(std::max(widths.size(), row.size()));
-        for (std::size_t i = 0; i < row.size(); ++i) {
+        for (std::size_t i = 0; i < widths.size(); ++i) {
             widths[i] = std::max(widths[i], CharacterCount(row[i]));
         }
     }
     std::string text;
     for (const auto& row : rows_) {
-        std::string line(indent_, ' ');
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::size_t width = row.size() < 2 ? 0 : widths[i];
-            const std::size_t count = CharacterCount(row[i]);
-            const std::string blanks(width > count ? width - count : 0, ' ');
-            if (i > 0) line.append(gap_, ' ');
-            line += i == 0 ? row[i] + blanks : blanks + row[i];
+        std::string line;
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            const std::string blanks(widths[i] - CharacterCount(row[i]), ' ');
+            if (i > 0) line += "  ";
+            line += sides_[i] == 'l' ? row[i] + blanks : blanks + row[i];
         }
-        const std::size_t end = line.find_last_not_of(' ');
-        line.resize(end == std::string::npos ? 0 : end + 1);
+        line.resize(line.find_last_not_of(' ') + 1);
         text += line + "\n";
     }
     return text;

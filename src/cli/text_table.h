@@ -6,19 +6,18 @@
 
 namespace tav {
 
-// Rows of cells; the first column stands on the left, all others on the right, under each other. A
-// row with a single cell is a heading and takes no part in the widths.
+// Rows of cells under each other, two blanks apart. One letter for each column says on which side
+// its cells stand: 'l' left, 'r' right.
 class TextTable {
   public:
-    // The number of blanks before each row and between columns.
-    explicit TextTable(std::size_t indent = 2, std::size_t gap = 2) : indent_(indent), gap_(gap) {}
+    explicit TextTable(std::string sides) : sides_(std::move(sides)) {}
 
+    // As many cells as there are columns.
     void AddRow(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
     std::string Text() const;
 
   private:
-    std::size_t indent_;
-    std::size_t gap_;
+    std::string sides_;
     std::vector<std::vector<std::string>> rows_;
 };
 

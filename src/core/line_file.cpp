@@ -48,9 +48,11 @@ FileHandle Open(const std::string& fileName, const char* mode) {
 
 }  // namespace
 
-LineReader::LineReader(const std::string& fileName) : file_(Open(fileName, "rb")), buffer_(kBlock) {
+LineReader::LineReader(FileHandle file) : file_(std::move(file)), buffer_(kBlock) {
     FillBuffer();  // A folder opens, but can't be read.
 }
+
+LineReader::LineReader(const std::string& fileName) : LineReader(Open(fileName, "rb")) {}
 
 bool LineReader::FillBuffer() {
     std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
@@ -90,7 +92,9 @@ std::string_view LineReader::ReadLine() {
     return text_;
 }
 
-LineWriter::LineWriter(const std::string& fileName) : file_(Open(fileName, "wb")) {}
+LineWriter::LineWriter(const std::string& fileName) : LineWriter(Open(fileName, "wb")) {}
+
+LineWriter::LineWriter(FileHandle file) : file_(std::move(file)) {}
 
 void LineWriter::WriteLine(std::string_view text) {
     pending_ += text;

@@ -35,6 +35,9 @@ class LineReader {
     // read, 75 for a folder.
     explicit LineReader(const std::string& fileName);
 
+    // Reads from a file that is open already.
+    explicit LineReader(FileHandle file);
+
     // The next line without its end, valid until the next call. Raises 62 behind the last line, 14
     // for a line of more than 64 MiB, 57 when the device fails.
     std::string_view ReadLine();
@@ -62,6 +65,9 @@ class LineReader {
 class LineWriter {
   public:
     explicit LineWriter(const std::string& fileName);
+
+    // Writes to a file that is open already.
+    explicit LineWriter(FileHandle file);
 
     void WriteLine(std::string_view text);
 

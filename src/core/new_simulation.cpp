@@ -1,9 +1,9 @@
 #include "core/new_simulation.h"
 
-#include <algorithm>
-
 #include "core/main_window.h"
 #include "core/program_state.h"
+
+#include <algorithm>
 
 namespace tav {
 namespace {

@@ -1,9 +1,9 @@
 // A new simulation and the defaults of the four animal types.
 #pragma once
 
-#include <string_view>
-
 #include "core/simulation_record.h"
+
+#include <string_view>
 
 namespace tav {
 

@@ -72,7 +72,10 @@ class Single {
     constexpr float Value() const { return value_; }
 
     // Each addition is rounded: the sum in a Single field is kept in 32 bits throughout.
-    Single& operator+=(Number other) { return *this = Number(*this) + other; }
+    Single& operator+=(Number other) {
+        value_ = Rounded(static_cast<double>(value_) + other.Value());
+        return *this;
+    }
     Single& operator*=(Number other) { return *this = Number(*this) * other; }
 
   private:

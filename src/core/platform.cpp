@@ -3,6 +3,7 @@
 #include "core/runtime_error.h"
 
 #include <cassert>
+#include <cstdio>
 #include <ctime>
 #include <filesystem>
 
@@ -53,7 +54,9 @@ std::optional<std::string> Platform::RegistryText(std::string_view, std::string_
 
 void Platform::StartProcess(const std::string&) { Raise(kFileNotFound); }
 
-void Platform::ReportFatalError(int, const std::string&) {}
+void Platform::ReportFatalError(int number, const std::string& description) {
+    std::fprintf(stderr, "Run-time error %d: %s\n", number, description.c_str());
+}
 
 Platform& ThePlatform() {
     assert(current != nullptr);

@@ -85,15 +85,15 @@ class Platform {
     virtual std::string ProgramFolder();
     virtual std::string CurrentFolder();
 
-    // A text value of the system's registry under the local machine's key; nothing where there is no
-    // such value or no registry.
+    // A text value of the system's registry under the local machine's key; nothing where there is
+    // no such value or no registry.
     virtual std::optional<std::string> RegistryText(std::string_view key, std::string_view value);
 
     // Starts another program in a window of its own and does not wait for it. Raises 53 when there
     // is no such program.
     virtual void StartProcess(const std::string& program);
 
-    // Tells the user that a run-time error has ended the program.
+    // Tells the user that a run-time error has ended the program; on standard error by default.
     virtual void ReportFatalError(int number, const std::string& description);
 };
 

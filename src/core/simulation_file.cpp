@@ -4,6 +4,7 @@
 #include "core/number_text.h"
 
 #include <array>
+#include <optional>
 #include <variant>
 
 namespace tav {
@@ -256,7 +257,9 @@ void ReadFeeds(LineReader& file, SimulationRecord& record) {
     }
 }
 
-void ReadAll(LineReader& file, SimulationRecord& record) {
+}  // namespace
+
+void ReadSimulation(LineReader& file, SimulationRecord& record) {
     ExpectLine(file, kFirstLine);
     for (std::string& text : record.HeaderFields)
         ReadNamed(file, text, "a header field");
@@ -270,27 +273,22 @@ void ReadAll(LineReader& file, SimulationRecord& record) {
     ExpectLine(file, kLastLine);
 }
 
-}  // namespace
-
 void ReadSimulation(const std::string& fileName, SimulationRecord& record) {
-    int line = 0;
+    std::optional<LineReader> file;
     try {
-        LineReader file(fileName);
-        try {
-            ReadAll(file, record);
-        } catch (const RuntimeError&) {
-            line = file.Line();
-            throw;
-        }
-    } catch (const FileFault&) {
-        throw;
+        file.emplace(fileName);
     } catch (const RuntimeError& error) {
-        throw FileFault(error, line);
+        throw FileFault(error, 0);
     }
+    ReadSimulation(*file, record);
 }
 
 void WriteSimulation(const std::string& fileName, const SimulationRecord& record) {
     LineWriter file(fileName);
+    WriteSimulation(file, record);
+}
+
+void WriteSimulation(LineWriter& file, const SimulationRecord& record) {
     file.WriteLine(kFirstLine);
     for (const std::string& text : record.HeaderFields)
         file.WriteLine(text);

@@ -33,9 +33,11 @@ void LoadSimulationData(const std::string& fileName);
 void SaveSimulationData(const std::string& fileName);
 
 // The reading and writing alone. ReadSimulation throws a FileFault and leaves the record as far as
-// reading got; a bad first or last line counts as a type mismatch.
+// reading got; a bad first or last line counts as a type mismatch. WriteSimulation closes the file.
 void ReadSimulation(const std::string& fileName, SimulationRecord& record);
+void ReadSimulation(LineReader& file, SimulationRecord& record);
 void WriteSimulation(const std::string& fileName, const SimulationRecord& record);
+void WriteSimulation(LineWriter& file, const SimulationRecord& record);
 
 // What LoadSimulationData does when reading has failed: shows the message, then makes a new
 // simulation.

@@ -4,6 +4,27 @@
 namespace tav {
 namespace {
 
+// The feeds of the ration that are not calf feeds.
+class OrdinaryFeeds {
+  public:
+    explicit OrdinaryFeeds(SimulationRecord& r) {
+        for (FeedRecord& f : FeedsInUse(r)) {
+            if (!IsCalfFeed(f)) feeds_[count_++] = &f;
+        }
+    }
+
+    std::span<FeedRecord* const> Feeds() const { return std::span(feeds_).first(count_); }
+
+    template <class Term>
+    Number Sum(Term&& term) const {
+        return SumOver(Feeds(), [&](const FeedRecord* f) { return term(*f); });
+    }
+
+  private:
+    std::array<FeedRecord*, 255> feeds_;  // as many as NumFeeds can count
+    std::size_t count_ = 0;
+};
+
 // What of a feed is digested at maintenance, in percent of its dry matter.
 struct DigestedParts {
     Number NFC, CP, Fat, NDF;
@@ -184,33 +205,26 @@ void EvaluateFeedEnergy(SimulationRecord& r) {
     r.TotalNEl = 0;
     r.TotalNEg = 0;
     if (r.NumFeeds == 0) return;
-    const auto feeds = FeedsInUse(r);
-    const auto sumOfOrdinary = [&](auto&& term) {
-        return SumOver(feeds, [&](const FeedRecord& f) {
-            return IsCalfFeed(f) ? Number(0) : Number(term(f));
-        });
-    };
+    const OrdinaryFeeds ordinary(r);
 
-    r.FeedDMINonCalf = sumOfOrdinary([](const FeedRecord& f) { return f.Qty; });
+    r.FeedDMINonCalf = ordinary.Sum([](const FeedRecord& f) { return f.Qty; });
     if (r.AnimalType == kYoungCalf && r.FeedDMINonCalf == 0) return;
 
     r.TotalNFC = 0;
-    for (FeedRecord& f : feeds) {
-        if (!IsCalfFeed(f)) EvaluateAtMaintenance(r, f);
-    }
+    for (FeedRecord* f : ordinary.Feeds())
+        EvaluateAtMaintenance(r, *f);
 
-    const Number sumTDN = sumOfOrdinary([](const FeedRecord& f) { return f.TDN / 100 * f.Qty; });
+    const Number sumTDN = ordinary.Sum([](const FeedRecord& f) { return f.TDN / 100 * f.Qty; });
     r.IntakeMultiple = IntakeInMultiples(r, sumTDN);
     const Number tdnPct = r.FeedDMINonCalf > 0 ? sumTDN / r.FeedDMINonCalf * 100 : Number(0);
-    const Number fatKg = sumOfOrdinary([](const FeedRecord& f) { return f.Fat / 100 * f.Qty; });
+    const Number fatKg = ordinary.Sum([](const FeedRecord& f) { return f.Fat / 100 * f.Qty; });
     const Number fatPct = r.FeedDMINonCalf > 0 ? fatKg / r.FeedDMINonCalf * 100 : Number(0);
     ComputeDiscountFactor(r, CorrectForFat(r, tdnPct, fatKg, fatPct));
 
-    for (FeedRecord& f : feeds) {
-        if (!IsCalfFeed(f)) f.DiscountedTDN = r.DiscountFactor * f.TDN;
-    }
+    for (FeedRecord* f : ordinary.Feeds())
+        f->DiscountedTDN = r.DiscountFactor * f->TDN;
     r.DietFatPercent = fatPct;
-    for (FeedRecord& f : feeds)
+    for (FeedRecord& f : FeedsInUse(r))
         EvaluateAtIntake(r, f);
 
     const Number netEnergy = r.AnimalType == kReplacementHeifer ? r.TotalNEm : r.TotalNEl;

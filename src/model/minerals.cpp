@@ -10,8 +10,8 @@ namespace {
 
 // A line of the table and where a feed has what it counts. Vitamins have no absorption coefficient.
 struct Nutrient {
-    const char* Name;
-    const char* Units;
+    std::string_view Name;
+    std::string_view Units;
     Single FeedRecord::*Content = nullptr;
     Single FeedRecord::*Absorption = nullptr;
 };
