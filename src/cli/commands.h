@@ -17,5 +17,7 @@ using SetStatus = void (*)(ExitStatus);
 void AddComputeCommand(CLI::App& app, SetStatus finish);
 void AddNewCommand(CLI::App& app, SetStatus finish);
 void AddCheckCommand(CLI::App& app, SetStatus finish);
+void AddReportCommand(CLI::App& app, SetStatus finish);
+void AddFeedsCommand(CLI::App& app, SetStatus finish);
 
 }  // namespace tav

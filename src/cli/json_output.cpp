@@ -68,7 +68,7 @@ class RecordWriter {
   private:
     template <class Float>
     void WriteNumber(Float value) {
-        std::array<char, 32> text;
+        std::array<char, 32> text{};
         const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
         json_.RawValue(text.data(), static_cast<std::size_t>(end - text.data()),
                        rapidjson::kNumberType);

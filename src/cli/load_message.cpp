@@ -18,7 +18,7 @@ std::string Quoted(const std::string& bytes) {
 }
 
 std::string Explanation(const FileFault& fault) {
-    const std::string number = "error " + std::to_string(fault.Number) + ", " + fault.Description;
+    std::string number = "error " + std::to_string(fault.Number) + ", " + fault.Description;
     switch (fault.Number) {
         case kFileNotFound: return "there is no such file (" + number + ")";
         case kPathNotFound: return "there is no such folder (" + number + ")";

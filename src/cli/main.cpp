@@ -6,12 +6,21 @@
 
 #include <cstdio>
 #include <exception>
+#include <string>
 
 #include <CLI/CLI.hpp>
 
 namespace {
 
 tav::ExitStatus exit_status = tav::kAllWell;
+
+// True when the first word is meant as a command and is none.
+bool IsUnknownCommand(const CLI::App& app, int argc, char** argv) {
+    if (argc < 2 || argv[1][0] == '-') return false;
+    const std::string word = argv[1];
+    return app.get_subcommands([&](const CLI::App* command) { return command->get_name() == word; })
+        .empty();
+}
 
 int RunCommandLine(int argc, char** argv) {
     CLI::App app("TAV Dairy Cattle Program: nutrient requirements and rations of dairy cattle");
@@ -25,6 +34,13 @@ int RunCommandLine(int argc, char** argv) {
     tav::AddComputeCommand(app, finish);
     tav::AddNewCommand(app, finish);
     tav::AddCheckCommand(app, finish);
+    tav::AddReportCommand(app, finish);
+    tav::AddFeedsCommand(app, finish);
+    if (IsUnknownCommand(app, argc, argv)) {
+        tav::WriteMessage(std::string("there is no command '") + argv[1] +
+                          "'. tav --help lists the commands.");
+        return tav::kWrongCommandLine;
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

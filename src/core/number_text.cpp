@@ -16,7 +16,7 @@ constexpr int kDoubleDigits = 15;
 
 template <class Float>
 std::string GeneralText(Float value, int digits) {
-    std::array<char, 48> buffer;
+    std::array<char, 48> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                    std::chars_format::general, digits)
                          .ptr;
@@ -42,7 +42,7 @@ struct DecimalDigits {
 
 template <class Float>
 DecimalDigits DigitsOf(Float value, int count) {
-    std::array<char, 48> buffer;
+    std::array<char, 48> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                    std::chars_format::scientific, count - 1)
                          .ptr;
@@ -63,10 +63,12 @@ DecimalDigits DigitsOf(Float value, int count) {
 // them so that digits stand for every place from the units to that one.
 void RoundAt(DecimalDigits& number, int decimals) {
     if (number.Point < 1) {
-        number.Digits.insert(0, static_cast<std::size_t>(1 - number.Point), '0');
+        const int missing = 1 - number.Point;
+        number.Digits.insert(0, static_cast<std::size_t>(missing), '0');
         number.Point = 1;
     }
-    const auto kept = static_cast<std::size_t>(number.Point + decimals);
+    const int digits = number.Point + decimals;
+    const auto kept = static_cast<std::size_t>(digits);
     if (number.Digits.size() <= kept) {
         number.Digits.append(kept - number.Digits.size(), '0');
         return;

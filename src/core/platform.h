@@ -75,6 +75,9 @@ class Platform {
     // the one that the user leaves.
     virtual int ShowPrinterSetup(int orientation);
 
+    // Turns the mouse pointer into the hourglass, or back.
+    virtual void ShowHourglass(bool /*on*/) {}
+
     // The user's wall clock, in whole seconds.
     virtual std::chrono::local_seconds Now();
 

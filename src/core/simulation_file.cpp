@@ -283,6 +283,26 @@ void ReadSimulation(const std::string& fileName, SimulationRecord& record) {
     ReadSimulation(*file, record);
 }
 
+void TakeSimulation(SimulationRecord& from, SimulationRecord& to) {
+    from.HeaderFields.swap(to.HeaderFields);
+    from.FooterFields.swap(to.FooterFields);
+    from.Comments.swap(to.Comments);
+    for (const AnimalField& field : kAnimalFields) {
+        std::visit(
+            [&](const auto& member) {
+                if constexpr (std::is_same_v<std::decay_t<decltype(member)>, ReadAsInteger>) {
+                    std::swap(from.*member.Field, to.*member.Field);
+                } else {
+                    std::swap(from.*member, to.*member);
+                }
+            },
+            field);
+    }
+    to.NumFeeds = from.NumFeeds;
+    if (from.NumFeeds != 0) from.Feeds.swap(to.Feeds);
+    to.TotalDMI = from.TotalDMI;
+}
+
 void WriteSimulation(const std::string& fileName, const SimulationRecord& record) {
     LineWriter file(fileName);
     WriteSimulation(file, record);
@@ -305,7 +325,7 @@ void WriteSimulation(LineWriter& file, const SimulationRecord& record) {
     file.Close();
 }
 
-Message LoadFailureMessage(const RuntimeError& error) {
+Message LoadFailureMessage(const RuntimeError& error, std::string_view consequence) {
     switch (error.Number) {
         case kFileNotFound:
             return {
@@ -319,8 +339,8 @@ Message LoadFailureMessage(const RuntimeError& error) {
                 "Corrupted File", MessageIcon::Information};
         default:
             return {"Error Number :  " + SignedText(error.Number) +
-                        "\rError Description :  " + error.Description +
-                        "\r\rCannot Load Default Data File.  Creating a new simulation instead.",
+                        "\rError Description :  " + error.Description + "\r\r" +
+                        std::string(consequence),
                     "Error", MessageIcon::Critical};
     }
 }

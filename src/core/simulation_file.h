@@ -39,11 +39,19 @@ void ReadSimulation(LineReader& file, SimulationRecord& record);
 void WriteSimulation(const std::string& fileName, const SimulationRecord& record);
 void WriteSimulation(LineWriter& file, const SimulationRecord& record);
 
+// Gives `to` what ReadSimulation has read into `from`, as if it had read it into `to`: everything else
+// in `to` stands. What `from` holds afterwards is of no use but for reading another file into it.
+void TakeSimulation(SimulationRecord& from, SimulationRecord& to);
+
 // What LoadSimulationData does when reading has failed: shows the message, then makes a new
 // simulation.
 void RecoverFromLoadFailure(const RuntimeError& error);
 
-// The message that goes with a failure to read.
-Message LoadFailureMessage(const RuntimeError& error);
+// The message that goes with a failure to read. consequence ends it where it tells the error's
+// number.
+inline constexpr std::string_view kDefaultFileNotLoaded =
+    "Cannot Load Default Data File.  Creating a new simulation instead.";
+Message LoadFailureMessage(const RuntimeError& error,
+                           std::string_view consequence = kDefaultFileNotLoaded);
 
 }  // namespace tav

@@ -21,7 +21,7 @@ class OrdinaryFeeds {
     }
 
   private:
-    std::array<FeedRecord*, 255> feeds_;  // as many as NumFeeds can count
+    std::array<FeedRecord*, 255> feeds_{};  // as many as NumFeeds can count
     std::size_t count_ = 0;
 };
 

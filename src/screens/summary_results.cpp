@@ -1,6 +1,7 @@
 #include "screens/summary_results.h"
 
 #include "core/number_text.h"
+#include "core/program_state.h"
 
 #include <algorithm>
 
@@ -10,6 +11,11 @@ namespace {
 using Record = SimulationRecord;
 
 constexpr double kPoundsPerKilogram = 2.20462;
+
+// The choices that are no number with a unit, and the line before which the first is offered.
+constexpr std::string_view kDaysToChange = "Days To Change 1 Condition Score";
+constexpr std::string_view kAfterDays = "RDP Balance";
+constexpr std::string_view kBlank = "Blank";
 
 // What stands behind a value, and with it the factor that the value takes in English units.
 enum class Unit {
@@ -70,7 +76,8 @@ Number DegradedProteinPercent(const Record& r) {
     return r.TotalCP / (r.TotalDMI * 1000) * (r.DietRDP * 100);
 }
 
-// Lines of cows and heifers. The first three are a lactating cow's alone.
+// Lines of cows and heifers, in the order in which they are offered. The first three are a lactating
+// cow's alone.
 constexpr std::array<Choice, 19> kChoices = {{
     {"Entered Milk Production", "Entered Milk Production :  ", &Record::MilkProduction, nullptr,
      "0.0", Unit::WeightPerDay, "Entered Milk Production :  N/A"},
@@ -80,24 +87,24 @@ constexpr std::array<Choice, 19> kChoices = {{
      Unit::WeightPerDay, "MP Allowable Milk :  N/A"},
     {"NEl Balance", "NEl Balance :  ", nullptr, NElBalance, "0.0", Unit::McalPerDay,
      "NEl Balance :  N/A"},
-    {"ME Balance", "ME Balance :  ", nullptr, MEBalance, "0.0", Unit::McalPerDay,
-     "ME Balance :  N/A"},
-    {"MP Balance", "MP Balance :  ", nullptr, MPBalanceOf, "0", Unit::GramsPerDay,
-     "MP Balance :  N/A"},
     {"RDP Balance", "RDP Balance :  ", &Record::RDPBalance, nullptr, "0", Unit::GramsShort,
      "RDP Balance :  N/A"},
-    {"Diet CP", "Diet CP :  ", nullptr, [](const Record& r) { return r.DietCP * 100; }, "0.0",
-     Unit::PercentDM, "Diet CP :  N/A"},
-    {"Diet Protein Degradability", "CP - RDP :  ", nullptr, DegradedProteinPercent, "0.0",
-     Unit::PercentDM, "CP - RDP :  N/A"},
+    {"MP Balance", "MP Balance :  ", nullptr, MPBalanceOf, "0", Unit::GramsPerDay,
+     "MP Balance :  N/A"},
     {"Diet NEl", "Diet NEl :  ", &Record::DietNEl, nullptr, "0.00", Unit::EnergyDensity,
      "NEl Concentration :  N/A"},
-    {"Diet ME", "Diet ME :  ", &Record::DietME, nullptr, "0.00", Unit::EnergyDensity,
-     "ME Concentration :  N/A"},
-    {"Diet NEg", "Diet NEg :  ", &Record::DietNEg, nullptr, "0.00", Unit::EnergyDensity,
-     "Diet NEg :  N/A"},
+    {"Diet CP", "Diet CP :  ", nullptr, [](const Record& r) { return r.DietCP * 100; }, "0.0",
+     Unit::PercentDM, "Diet CP :  N/A"},
     {"Predicted Dry Matter Intake", "DMI - Predicted :  ", &Record::PredDMI, nullptr, "0.00",
      Unit::WeightPerDay, "DMI - Predicted :  N/A"},
+    {"ME Balance", "ME Balance :  ", nullptr, MEBalance, "0.0", Unit::McalPerDay,
+     "ME Balance :  N/A"},
+    {"Diet ME", "Diet ME :  ", &Record::DietME, nullptr, "0.00", Unit::EnergyDensity,
+     "ME Concentration :  N/A"},
+    {"Diet Protein Degradability", "CP - RDP :  ", nullptr, DegradedProteinPercent, "0.0",
+     Unit::PercentDM, "CP - RDP :  N/A"},
+    {"Diet NEg", "Diet NEg :  ", &Record::DietNEg, nullptr, "0.00", Unit::EnergyDensity,
+     "Diet NEg :  N/A"},
     {"Target ADG w/o Conceptus", "Target ADG w/o Conceptus :  ", &Record::TargetADGNoConceptus,
      nullptr, "0.00", Unit::WeightPerDay, "Target ADG w/o Conceptus :  N/A"},
     {"Target ADG with Conceptus", "Target ADG with Conceptus :  ", &Record::TargetADGConceptus,
@@ -115,7 +122,7 @@ constexpr std::array<Choice, 19> kChoices = {{
      Unit::WeightPerDay, "MP Allowable ADG with Conceptus :  N/A"},
 }};
 
-// Lines of the young calf.
+// Lines of the young calf, offered behind those.
 constexpr std::array<Choice, 11> kCalfChoices = {{
     {"(CALF) Dry Matter Intake - Milk", "Milk Dry Matter Intake :  ", &Record::CalfMilkDMI, nullptr,
      "0.00", Unit::WeightPerDay, "(CALF) Milk Dry Matter Intake :  N/A"},
@@ -123,8 +130,6 @@ constexpr std::array<Choice, 11> kCalfChoices = {{
      nullptr, "0.00", Unit::WeightPerDay, "(CALF) Starter Dry Matter Intake :  N/A"},
     {"(CALF) Energy Allowable Gain", "Energy Allowable Gain :  ", &Record::CalfEnergyGain, nullptr,
      "0.00", Unit::WeightPerDay, "(CALF) Energy Allowable Gain :  N/A"},
-    {"(CALF) Apparently Dig. Protein Allowable Gain", "ADP Allowable Gain :  ", nullptr,
-     [](const Record& r) { return r.CalfADPGain / 1000; }, "0.00", Unit::WeightPerDay, ""},
     {"(CALF) Diet ME", "Diet ME :  ", &Record::CalfDietME, nullptr, "0.00", Unit::CalfEnergyDensity,
      "(CALF) Diet ME :  N/A"},
     {"(CALF) Diet NEm", "Diet NEm :  ", &Record::CalfDietNEm, nullptr, "0.00",
@@ -139,6 +144,8 @@ constexpr std::array<Choice, 11> kCalfChoices = {{
      nullptr, "0", Unit::Grams, "(CALF) Digestible Protein Balance :  N/A"},
     {"(CALF) Crude Protein Balance", "Crude Protein Balance :  ", &Record::CalfCPBalance, nullptr,
      "0", Unit::Grams, "(CALF) Crude Protein Balance :  N/A"},
+    {"(CALF) Apparently Dig. Protein Allowable Gain", "ADP Allowable Gain :  ", nullptr,
+     [](const Record& r) { return r.CalfADPGain / 1000; }, "0.00", Unit::WeightPerDay, ""},
 }};
 
 constexpr std::array<SummaryChoices, 4> kDefaults = {{
@@ -184,12 +191,12 @@ SummaryChoices DefaultSummaryChoices(std::string_view animalType) {
         if (kAnimalTypes[i] == animalType) return kDefaults[i];
     }
     SummaryChoices blank;
-    blank.fill("Blank");
+    blank.fill(kBlank);
     return blank;
 }
 
 std::string SummaryResultText(const Record& r, std::string_view name, bool metric) {
-    if (name == "Days To Change 1 Condition Score") {
+    if (name == kDaysToChange) {
         return r.AnimalType == kYoungCalf ? std::string() : r.DaysToChangeCSText;
     }
     const Choice* choice = Find(kChoices, name);

@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tav {
 
@@ -16,6 +17,19 @@ using SummaryChoices = std::array<std::string_view, kSummaryLines>;
 // The ten choices that the panel shows for an animal type unless the user has made their own; all
 // "Blank" for a text that is no animal type.
 SummaryChoices DefaultSummaryChoices(std::string_view animalType);
+
+// All 32 choices in the order in which they are offered to the user.
+std::vector<std::string_view> SummaryChoiceNames();
+
+// Makes the user's choices those of the animal type at hand. A text that is no animal type leaves
+// them as they are.
+void TakeDefaultSummaryChoices();
+
+// What stands in the fifth and sixth line of the panel instead of any result, where there is no
+// ration.
+inline constexpr std::array<std::string_view, 2> kNoRationTexts = {"No Ration Specified",
+                                                                   "Cannot Run Computations"};
+bool HasRation(const SimulationRecord& record);
 
 // The line of a choice such as "MP Balance", in metric or English units. A choice that does not fit
 // the animal type gives an "N/A" text, "Blank" and any unknown text an empty line.
