@@ -2,21 +2,22 @@
 //
 // A Single is what the record holds: 32 bits. A Number is what an equation works with: 64 bits. An
 // expression of Singles is evaluated in Numbers, from left to right as C++ does, and rounded once,
-// when it is stored in a Single. What must not pass raises a RuntimeError at that very point:
+// when it is stored in a Single. What must not pass raises a RuntimeError:
 //
 //   x / 0                                   11, division by zero
 //   0 / 0, a result beyond 64 bits          6, overflow
 //   a store beyond the range of 32 bits     6, overflow
 //   an invalid power or logarithm           5, invalid procedure call
 //
-// So neither a NaN nor an infinity ever exists in a Number or a Single.
+// A sum, difference, product or quotient beyond 64 bits is noticed where it is first used for
+// anything but a further one of these: stored, compared, divided by, raised to a power. So neither
+// a NaN nor an infinity decides a branch or reaches a Single.
 #pragma once
 
 #include "core/runtime_error.h"
 
 #include <cfloat>
 #include <cmath>
-#include <compare>
 #include <cstdint>
 #include <type_traits>
 
@@ -31,40 +32,43 @@ class Number {
     template <Arithmetic T>
     constexpr Number(T value) : value_(static_cast<double>(value)) {}
 
-    constexpr double Value() const { return value_; }
+    // Raises 6 for a value beyond the range of 64 bits.
+    double Value() const {
+        if (!(std::abs(value_) <= DBL_MAX)) [[unlikely]]
+            Raise(kOverflow);
+        return value_;
+    }
 
-    friend Number operator-(Number a) { return Number(-a.value_); }
+    // The bare value, for arithmetic that is checked later.
+    constexpr double Unchecked() const { return value_; }
 
   private:
     double value_ = 0;
 };
 
-// The value itself, unless it is beyond the range of 64 bits: error 6.
-inline Number Checked(double value) {
-    if (!(std::abs(value) <= DBL_MAX)) [[unlikely]]
-        Raise(kOverflow);
-    return value;
-}
-
-inline Number operator+(Number a, Number b) { return Checked(a.Value() + b.Value()); }
-inline Number operator-(Number a, Number b) { return Checked(a.Value() - b.Value()); }
-inline Number operator*(Number a, Number b) { return Checked(a.Value() * b.Value()); }
+inline Number operator-(Number a) { return -a.Unchecked(); }
+inline Number operator+(Number a, Number b) { return a.Unchecked() + b.Unchecked(); }
+inline Number operator-(Number a, Number b) { return a.Unchecked() - b.Unchecked(); }
+inline Number operator*(Number a, Number b) { return a.Unchecked() * b.Unchecked(); }
 inline Number operator/(Number a, Number b) {
     if (b.Value() == 0) [[unlikely]]
         Raise(a.Value() == 0 ? kOverflow : kDivisionByZero);
-    return Checked(a.Value() / b.Value());
+    return a.Unchecked() / b.Unchecked();
 }
 inline Number& operator+=(Number& a, Number b) { return a = a + b; }
 
 inline bool operator==(Number a, Number b) { return a.Value() == b.Value(); }
-inline std::partial_ordering operator<=>(Number a, Number b) { return a.Value() <=> b.Value(); }
+inline bool operator<(Number a, Number b) { return a.Value() < b.Value(); }
+inline bool operator>(Number a, Number b) { return a.Value() > b.Value(); }
+inline bool operator<=(Number a, Number b) { return a.Value() <= b.Value(); }
+inline bool operator>=(Number a, Number b) { return a.Value() >= b.Value(); }
 
 // A 32-bit float of the record.
 class Single {
   public:
     constexpr Single() = default;
     // Rounds to the nearest 32-bit value. Raises 6 beyond the range.
-    Single(Number value) : value_(Rounded(value.Value())) {}
+    Single(Number value) : value_(Rounded(value.Unchecked())) {}
     template <Arithmetic T>
     Single(T value) : Single(Number(value)) {}
 
@@ -73,7 +77,7 @@ class Single {
 
     // Each addition is rounded: the sum in a Single field is kept in 32 bits throughout.
     Single& operator+=(Number other) {
-        value_ = Rounded(static_cast<double>(value_) + other.Value());
+        value_ = Rounded(static_cast<double>(value_) + other.Unchecked());
         return *this;
     }
     Single& operator*=(Number other) { return *this = Number(*this) * other; }
@@ -97,14 +101,14 @@ inline Number Power(Number base, Number exponent) {
     const double e = exponent.Value();
     if ((b < 0 && e != std::floor(e)) || (b == 0 && e < 0)) [[unlikely]]
         Raise(kInvalidProcedureCall);
-    return Checked(std::pow(b, e));
+    return std::pow(b, e);
 }
 
 inline Number Square(Number x) { return x * x; }
 inline Number Cube(Number x) { return x * x * x; }
 
-// e raised to x. Raises 6 when the result is beyond the range.
-inline Number Exp(Number x) { return Checked(std::exp(x.Value())); }
+// e raised to x.
+inline Number Exp(Number x) { return std::exp(x.Value()); }
 
 // The natural logarithm. Raises 5 for zero and below.
 inline Number Log(Number x) {

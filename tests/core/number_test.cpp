@@ -48,14 +48,25 @@ TEST(Single, RaisesOverflowAtTheEdgeOfItsRange) {
 TEST(Number, RaisesTheErrorOfEachFault) {
     EXPECT_EQ(ErrorOf([] { return Number(1) / 0; }), kDivisionByZero);
     EXPECT_EQ(ErrorOf([] { return Number(0) / 0; }), kOverflow);
-    EXPECT_EQ(ErrorOf([] { return Number(1e200) * 1e200; }), kOverflow);
-    EXPECT_EQ(ErrorOf([] { return Number(1.7e308) + 1.7e308; }), kOverflow);
-    EXPECT_EQ(ErrorOf([] { return Number(1e200) / 1e-200; }), kOverflow);
+    EXPECT_EQ(ErrorOf([] { return (Number(1e200) * 1e200).Value(); }), kOverflow);
+    EXPECT_EQ(ErrorOf([] { return (Number(1.7e308) + 1.7e308).Value(); }), kOverflow);
+    EXPECT_EQ(ErrorOf([] { return (Number(1e200) / 1e-200).Value(); }), kOverflow);
     EXPECT_EQ(ErrorOf([] { return Power(-1, 0.75); }), kInvalidProcedureCall);
     EXPECT_EQ(ErrorOf([] { return Power(0, -0.22); }), kInvalidProcedureCall);
-    EXPECT_EQ(ErrorOf([] { return Power(1e30, 20); }), kOverflow);
+    EXPECT_EQ(ErrorOf([] { return (Power(1e30, 20)).Value(); }), kOverflow);
     EXPECT_EQ(ErrorOf([] { return Log(0); }), kInvalidProcedureCall);
-    EXPECT_EQ(ErrorOf([] { return Exp(1000); }), kOverflow);
+    EXPECT_EQ(ErrorOf([] { return (Exp(1000)).Value(); }), kOverflow);
+}
+
+TEST(Number, NeitherHidesAnOverflowNorDecidesByIt) {
+    const Number beyond = Number(1e200) * 1e200;
+    EXPECT_EQ(ErrorOf([&] { return Single(beyond); }), kOverflow);
+    EXPECT_EQ(ErrorOf([&] { return beyond > 0; }), kOverflow);
+    EXPECT_EQ(ErrorOf([&] { return 1 / beyond; }), kOverflow);
+    EXPECT_EQ(ErrorOf([&] { return beyond / 0; }), kOverflow);
+    EXPECT_EQ(ErrorOf([&] { return Exp(-beyond); }), kOverflow);
+    EXPECT_EQ(ErrorOf([&] { return GuardedQuotient(1, beyond - beyond); }), kOverflow);
+    EXPECT_EQ(ErrorOf([&] { return Single(beyond - beyond); }), kOverflow);
 }
 
 TEST(Number, TakesWhatIsValid) {
