@@ -5,6 +5,9 @@ cd "$(dirname "$0")/.."
 preset=$1
 shift
 
+# Another checkout of the same code finds what this one has compiled.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 targets=()
