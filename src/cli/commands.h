@@ -18,6 +18,8 @@ void AddComputeCommand(CLI::App& app, SetStatus finish);
 void AddNewCommand(CLI::App& app, SetStatus finish);
 void AddCheckCommand(CLI::App& app, SetStatus finish);
 void AddReportCommand(CLI::App& app, SetStatus finish);
+void AddSummaryCommand(CLI::App& app, SetStatus finish);
 void AddFeedsCommand(CLI::App& app, SetStatus finish);
+void AddBatchCommand(CLI::App& app, SetStatus finish);
 
 }  // namespace tav

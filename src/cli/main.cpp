@@ -34,8 +34,10 @@ int RunCommandLine(int argc, char** argv) {
     tav::AddComputeCommand(app, finish);
     tav::AddNewCommand(app, finish);
     tav::AddCheckCommand(app, finish);
+    tav::AddSummaryCommand(app, finish);
     tav::AddReportCommand(app, finish);
     tav::AddFeedsCommand(app, finish);
+    tav::AddBatchCommand(app, finish);
     if (IsUnknownCommand(app, argc, argv)) {
         tav::WriteMessage(std::string("there is no command '") + argv[1] +
                           "'. tav --help lists the commands.");

@@ -338,9 +338,8 @@ Message LoadFailureMessage(const RuntimeError& error, std::string_view consequen
                 "Therefore, a default simulation has been created.",
                 "Corrupted File", MessageIcon::Information};
         default:
-            return {"Error Number :  " + SignedText(error.Number) +
-                        "\rError Description :  " + error.Description + "\r\r" +
-                        std::string(consequence),
+            return {"Error Number :  " + SignedText(error.Number) + "\rError Description :  " +
+                        error.Description + "\r\r" + std::string(consequence),
                     "Error", MessageIcon::Critical};
     }
 }

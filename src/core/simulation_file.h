@@ -39,8 +39,9 @@ void ReadSimulation(LineReader& file, SimulationRecord& record);
 void WriteSimulation(const std::string& fileName, const SimulationRecord& record);
 void WriteSimulation(LineWriter& file, const SimulationRecord& record);
 
-// Gives `to` what ReadSimulation has read into `from`, as if it had read it into `to`: everything else
-// in `to` stands. What `from` holds afterwards is of no use but for reading another file into it.
+// Gives `to` what ReadSimulation has read into `from`, as if it had read it into `to`: everything
+// else in `to` stands. What `from` holds afterwards is of no use but for reading another file into
+// it.
 void TakeSimulation(SimulationRecord& from, SimulationRecord& to);
 
 // What LoadSimulationData does when reading has failed: shows the message, then makes a new

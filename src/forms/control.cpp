@@ -34,9 +34,8 @@ bool OnHiddenPage(const Control& control) {
 KeyPress ParseKey(std::string_view text) {
     KeyPress key;
     std::string_view rest = text;
-    for (std::size_t plus;
-         (plus = rest.find('+')) != std::string_view::npos && plus + 1 < rest.size();
-         rest.remove_prefix(plus + 1)) {
+    for (std::size_t plus = rest.find('+');
+         plus != std::string_view::npos && plus + 1 < rest.size(); plus = rest.find('+')) {
         const std::string_view held = rest.substr(0, plus);
         if (held == "Ctrl") {
             key.Ctrl = true;
@@ -47,6 +46,7 @@ KeyPress ParseKey(std::string_view text) {
         } else {
             throw NotPossible("no such key: " + std::string(text));
         }
+        rest.remove_prefix(plus + 1);
     }
     if (rest.empty()) throw NotPossible("no such key: " + std::string(text));
     key.Key = rest;

@@ -94,8 +94,10 @@ std::vector<std::string> SystemDrives() {
 #else
 // A blank in a mount point is written as \040.
 std::string WithBlanks(std::string path) {
-    for (std::size_t at; (at = path.find("\\040")) != std::string::npos;)
-        path.replace(at, 4, " ");
+    const std::string_view blank = "\\040";
+    for (std::size_t at = path.find(blank); at != std::string::npos; at = path.find(blank)) {
+        path.replace(at, blank.size(), " ");
+    }
     return path;
 }
 
@@ -171,7 +173,9 @@ void FolderList::UserOpen(const std::string& folder) {
     if (!IsFolder(target.string())) throw NotPossible(FullName() + " has no folder " + folder);
     Form::DismissPopUps();
     TakeFocus();
+    const std::string previous = path_;
     SetPath(target.string());
+    if (path_ == previous) Fire(Change);
 }
 
 void FileList::SetPath(const std::string& path) {

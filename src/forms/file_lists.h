@@ -51,7 +51,8 @@ class FolderList : public Control {
 
     std::function<void()> Change;
 
-    // Opens a folder: its full path, the name of one in Path, or "..".
+    // Opens a folder: its full path, the name of one in Path, or "..". Raises Change for the one
+    // that is open as well, so that its files can be read anew.
     void UserOpen(const std::string& folder);
 
   private:

@@ -59,14 +59,14 @@ Form& FormRegistry::ShowModal(std::string_view name) {
     return Show(name);
 }
 
-void FormRegistry::Hide(std::string_view name) {
+void FormRegistry::Hide(std::string_view name) const {
     Form* const form = Find(name);
     if (form == nullptr) return;
     form->visible_ = false;
     form->modal_ = false;
 }
 
-bool FormRegistry::QueryChildren() {
+bool FormRegistry::QueryChildren() const {
     for (Form* const form : Loaded()) {
         bool cancel = false;
         if (!form->IsChild) continue;

@@ -37,7 +37,7 @@ class FormRegistry {
     // stands at the end of the operation that calls it.
     Form& Show(std::string_view name);
     Form& ShowModal(std::string_view name);
-    void Hide(std::string_view name);
+    void Hide(std::string_view name) const;
 
     // Runs Form_QueryUnload, unloads the children of a main window, runs Form_Unload and takes the
     // form away. False, and the form stays, when one of them was cancelled. True if nothing of the
@@ -69,7 +69,7 @@ class FormRegistry {
 
     Entry* EntryOf(std::string_view name);
     bool UnloadChildren();
-    bool QueryChildren();
+    bool QueryChildren() const;
     void Remove(Form& form);
 
     std::map<std::string, Factory, std::less<>> factories_;

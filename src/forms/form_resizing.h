@@ -8,9 +8,9 @@
 
 namespace tav {
 
-// By how much the main window's client area is wider and higher than the layout. Below 1 on a screen
-// of 800 by 600, of which the window takes only a part; 1 where no main window is loaded. Raises 6
-// when the area has more pixels than a 16-bit integer holds.
+// By how much the main window's client area is wider and higher than the layout. Below 1 on a
+// screen of 800 by 600, of which the window takes only a part; 1 where no main window is loaded.
+// Raises 6 when the area has more pixels than a 16-bit integer holds.
 struct ScreenScale {
     Single X = 1;
     Single Y = 1;

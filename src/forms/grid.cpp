@@ -19,7 +19,8 @@ void Grid::SetCols(int cols) {
                                    static_cast<std::size_t>(cols));
     for (int row = 0; row < rows_; ++row) {
         for (int col = 0; col < std::min(cols, cols_); ++col) {
-            cells[static_cast<std::size_t>(row * cols + col)] = std::move(cells_[At(row, col)]);
+            cells[static_cast<std::size_t>(row) * static_cast<std::size_t>(cols) +
+                  static_cast<std::size_t>(col)] = std::move(cells_[At(row, col)]);
         }
     }
     cells_ = std::move(cells);

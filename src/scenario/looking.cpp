@@ -31,7 +31,7 @@ Value ProgramValueOf(const Expression& path) {
     const PathPart& name = path[1];
     const std::optional<int> index = name.Args.empty() ? 0 : WholeNumber(name.Args[0]);
     if (!index || *index < 0) throw NotPossible("\"" + name.Args[0] + "\" is not a whole number");
-    const Value value = ProgramValue(name.Name, static_cast<std::size_t>(*index));
+    Value value = ProgramValue(name.Name, static_cast<std::size_t>(*index));
     if (!value && !ProgramValue(name.Name)) Refuse(name);
     return value;
 }

@@ -1,6 +1,7 @@
 #include "scenario/program_world.h"
 
 #include "scenario/feed_library_world.h"
+#include "scenario/report_world.h"
 #include "shell/program.h"
 
 namespace tav {
@@ -24,6 +25,10 @@ void ProgramWorld::RemoveLibrary(const std::string& folder) { RemoveLibraryFile(
 std::optional<std::string> ProgramWorld::LibraryValue(const std::string& folder,
                                                       const Expression& path) {
     return LibraryValueOf(folder, path);
+}
+
+std::optional<std::string> ProgramWorld::ReportValue(const Expression& path) {
+    return ReportValueOf(path);
 }
 
 }  // namespace tav

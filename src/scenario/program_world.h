@@ -14,6 +14,8 @@ class ProgramWorld : public World {
     void RemoveLibrary(const std::string& folder) override;
     std::optional<std::string> LibraryValue(const std::string& folder,
                                             const Expression& path) override;
+
+    std::optional<std::string> ReportValue(const Expression& path) override;
 };
 
 }  // namespace tav

@@ -39,10 +39,10 @@ void Check(const std::error_code& error, const std::string& what) {
 }
 
 // The clock of the machine, in the zone of the machine, as far as a script doesn't set it.
-auto MachineTime() {
-    class Machine : public HeadlessPlatform {
+std::chrono::local_seconds MachineTime() {
+    class Machine : public Platform {
       public:
-        std::chrono::local_seconds Now() override { return tav::Platform::Now(); }
+        MessageAnswer ShowMessage(const Message&) override { return MessageAnswer::OK; }
     };
     return Machine().Now();
 }
@@ -135,9 +135,9 @@ void Surroundings::QueueAnswer(const std::string& answer) {
 
 void Surroundings::QueueFile(const std::string& path) {
     if (path == "cancel") {
-        Platform.Files.push_back(std::nullopt);
+        Platform.Files.emplace_back(std::nullopt);
     } else {
-        Platform.Files.push_back(fs::absolute(path).string());
+        Platform.Files.emplace_back(fs::absolute(path).string());
     }
 }
 

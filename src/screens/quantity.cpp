@@ -48,8 +48,12 @@ void ShowTemperature(NumericTextBox& box, Single celsius) {
                            : FormatNumber(CelsiusToFahrenheit(celsius).Value(), box.Format));
 }
 
-void ShowMasked(NumericTextBox& box, double value, std::string_view mask) {
+void ShowMasked(NumericTextBox& box, Single value, std::string_view mask) {
     ShowText(box, FormatNumber(value, mask));
+}
+
+void ShowMasked(NumericTextBox& box, Number value, std::string_view mask) {
+    ShowText(box, FormatNumber(value.Value(), mask));
 }
 
 void ShowPlain(NumericTextBox& box, Single value) { ShowText(box, NumberText(value)); }

@@ -40,7 +40,8 @@ std::string WithUnit(std::string_view number, std::string_view unit);
 // unit, or as the plain number with it. The first two set the box's unit and mask.
 void ShowQuantity(NumericTextBox& box, const Quantity& quantity, Single value);
 void ShowTemperature(NumericTextBox& box, Single celsius);
-void ShowMasked(NumericTextBox& box, double value, std::string_view mask);
+void ShowMasked(NumericTextBox& box, Single value, std::string_view mask);
+void ShowMasked(NumericTextBox& box, Number value, std::string_view mask);
 void ShowPlain(NumericTextBox& box, Single value);
 
 // Shows "N/A" and disables the box.

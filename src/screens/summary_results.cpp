@@ -76,8 +76,8 @@ Number DegradedProteinPercent(const Record& r) {
     return r.TotalCP / (r.TotalDMI * 1000) * (r.DietRDP * 100);
 }
 
-// Lines of cows and heifers, in the order in which they are offered. The first three are a lactating
-// cow's alone.
+// Lines of cows and heifers, in the order in which they are offered. The first three are a
+// lactating cow's alone.
 constexpr std::array<Choice, 19> kChoices = {{
     {"Entered Milk Production", "Entered Milk Production :  ", &Record::MilkProduction, nullptr,
      "0.0", Unit::WeightPerDay, "Entered Milk Production :  N/A"},
@@ -195,21 +195,39 @@ SummaryChoices DefaultSummaryChoices(std::string_view animalType) {
     return blank;
 }
 
-std::string SummaryResultText(const Record& r, std::string_view name, bool metric) {
-    if (name == kDaysToChange) {
-        return r.AnimalType == kYoungCalf ? std::string() : r.DaysToChangeCSText;
+std::vector<std::string_view> SummaryChoiceNames() {
+    std::vector<std::string_view> names = {kBlank};
+    for (const Choice& choice : kChoices) {
+        if (choice.Name == kAfterDays) names.push_back(kDaysToChange);
+        names.emplace_back(choice.Name);
     }
-    const Choice* choice = Find(kChoices, name);
-    const bool calfLine = choice == nullptr;
-    if (calfLine) choice = Find(kCalfChoices, name);
-    if (choice == nullptr) return {};
-    if (!Fits(r, *choice, calfLine)) return choice->NotApplicable;
-    return choice->Prefix + ValueText(r, *choice, metric) +
-           (metric ? TextOf(choice->UnitOfValue).Metric : TextOf(choice->UnitOfValue).English);
+    for (const Choice& choice : kCalfChoices)
+        names.emplace_back(choice.Name);
+    return names;
 }
 
-bool DegradedProteinIsLimiting(const Record& r) {
-    return r.RDPBalance < -20 && r.AnimalType != kYoungCalf;
+void TakeDefaultSummaryChoices() {
+    const std::string& animal = TheSimulation().AnimalType;
+    if (std::find(kAnimalTypes.begin(), kAnimalTypes.end(), animal) == kAnimalTypes.end()) return;
+    const SummaryChoices choices = DefaultSummaryChoices(animal);
+    std::copy(choices.begin(), choices.end(), TheProgram().SummaryResultsNames.begin());
+}
+
+std::string SummaryResultText(const Record& record, std::string_view choice, bool metric) {
+    if (choice == kDaysToChange) {
+        return record.AnimalType == kYoungCalf ? std::string() : record.DaysToChangeCSText;
+    }
+    const Choice* line = Find(kChoices, choice);
+    const bool calfLine = line == nullptr;
+    if (calfLine) line = Find(kCalfChoices, choice);
+    if (line == nullptr) return {};
+    if (!Fits(record, *line, calfLine)) return line->NotApplicable;
+    const UnitText unit = TextOf(line->UnitOfValue);
+    return line->Prefix + ValueText(record, *line, metric) + (metric ? unit.Metric : unit.English);
+}
+
+bool DegradedProteinIsLimiting(const Record& record) {
+    return record.RDPBalance < -20 && record.AnimalType != kYoungCalf;
 }
 
 }  // namespace tav

@@ -29,7 +29,6 @@ void TakeDefaultSummaryChoices();
 // ration.
 inline constexpr std::array<std::string_view, 2> kNoRationTexts = {"No Ration Specified",
                                                                    "Cannot Run Computations"};
-bool HasRation(const SimulationRecord& record);
 
 // The line of a choice such as "MP Balance", in metric or English units. A choice that does not fit
 // the animal type gives an "N/A" text, "Blank" and any unknown text an empty line.

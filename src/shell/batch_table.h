@@ -11,8 +11,8 @@ namespace tav {
 
 inline constexpr std::string_view kBatchHeading = "TAV DAIRY BATCH FILE UTILITY OUTPUT";
 
-// A text as a field: in quotes, a quote in it doubled, and guarded where a spreadsheet would take it
-// for a formula.
+// A text as a field: in quotes, a quote in it doubled, and guarded where a spreadsheet would take
+// it for a formula.
 std::string BatchText(std::string_view text);
 
 // The line of titles, with a column for each of the feeds.

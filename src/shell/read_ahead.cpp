@@ -17,8 +17,8 @@ void Read(ReadFile& file) {
     }
 }
 
-// Taking files in their turn and computing them is a quarter of the work, so more than a few readers
-// would only wait.
+// Taking files in their turn and computing them is a quarter of the work, so more than a few
+// readers would only wait.
 int ReadAhead::UsefulReaders() {
     constexpr int kMost = 8;
     const auto cores = static_cast<int>(std::thread::hardware_concurrency());

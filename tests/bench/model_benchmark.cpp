@@ -1,10 +1,9 @@
 // How long a computation, a load and a save take. Ends with the ratio of a load to merely reading
 // the same file's lines, both measured in this run.
-#include "core/simulation_file.h"
+#include "bench/sample_cows.h"
 #include "model/computations.h"
 
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <map>
 #include <string>
@@ -13,24 +12,9 @@
 
 namespace {
 
+using tav::CowWithTwelveFeeds;
+using tav::Sample;
 using tav::SimulationRecord;
-
-SimulationRecord Sample(const std::string& name) {
-    SimulationRecord record;
-    tav::ReadSimulation(TAV_SIMULATIONS + name, record);
-    return record;
-}
-
-// A lactating cow with 12 feeds.
-SimulationRecord CowWithTwelveFeeds() {
-    SimulationRecord record = Sample("Lactating Cow.tav");
-    record.Feeds.resize(record.NumFeeds);
-    while (record.NumFeeds < 12) {
-        record.Feeds.push_back(record.Feeds[record.NumFeeds % 3]);
-        ++record.NumFeeds;
-    }
-    return record;
-}
 
 void Compute(benchmark::State& state, SimulationRecord record) {
     for (auto _ : state) {
@@ -44,12 +28,9 @@ void ComputeCalf(benchmark::State& state) { Compute(state, Sample("Young Calf.ta
 BENCHMARK(ComputeCow);
 BENCHMARK(ComputeCalf);
 
-// A file of 12 feeds, in memory where the system has such a place.
+// A file of 12 feeds.
 std::string TwelveFeedFile() {
-    const bool memory = std::filesystem::is_directory("/dev/shm");
-    const std::filesystem::path folder =
-        memory ? std::filesystem::path("/dev/shm") : std::filesystem::temp_directory_path();
-    const std::string file = (folder / "tav benchmark.tav").string();
+    const std::string file = (tav::FolderInMemory() / "tav benchmark.tav").string();
     tav::WriteSimulation(file, CowWithTwelveFeeds());
     return file;
 }

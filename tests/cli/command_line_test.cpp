@@ -4,6 +4,7 @@
 #include "model/computations.h"
 #include "support/temporary_folder.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
@@ -191,6 +192,34 @@ TEST_F(CommandLine, NewWritesATypesDefaultsAndNeverOverwrites) {
     EXPECT_NE(again.Messages.find("exists"), std::string::npos);
     EXPECT_EQ(Sample(file).AnimalType, "Dry Cow");
     EXPECT_EQ(Run({"new", folder.Path("no folder/x.tav"), "--animal", "Dry Cow"}).Status, 1);
+}
+
+TEST_F(CommandLine, SummaryPrintsThePanelsLines) {
+    const Result panel = Run({"summary", cow, calf});
+    EXPECT_EQ(panel.Status, 0) << panel.Messages;
+    EXPECT_EQ(std::count(panel.Output.begin(), panel.Output.end(), '\n'), 20);
+    EXPECT_TRUE(panel.Output.starts_with("Entered Milk Production :  36.0 (kg/day)\nNEl Allow"));
+    EXPECT_NE(panel.Output.find("\nMilk Dry Matter Intake :  0.75 (kg/day)\n"), std::string::npos);
+    const Result chosen = Run({"summary", "--english", "--select", "Entered Milk Production",
+                               "--select", "Blank", "--select", "(CALF) Diet ME", cow});
+    EXPECT_EQ(chosen.Output,
+              "Entered Milk Production :  79.4 (lbs/day)\n\n(CALF) Diet ME :  N/A\n");
+    const Result wrong = Run({"summary", "--select", "Diet Cp", cow});
+    EXPECT_EQ(wrong.Status, 2);
+    EXPECT_EQ(wrong.Output, "");
+    EXPECT_NE(wrong.Messages.find("\n  Diet CP\n"), std::string::npos);
+}
+
+TEST_F(CommandLine, SummarySaysThatThereIsNoRationAndGoesOnBehindABadFile) {
+    const std::string empty = folder.Path("empty.tav");
+    ASSERT_EQ(Run({"new", empty, "--animal", "Dry Cow"}).Status, 0);
+    EXPECT_EQ(Run({"summary", empty}).Output,
+              "\n\n\n\nNo Ration Specified\nCannot Run Computations\n\n\n\n\n");
+    const Result result =
+        Run({"summary", "--select", "Diet CP", folder.Path("no such file"), empty});
+    EXPECT_EQ(result.Status, 1);
+    EXPECT_EQ(result.Output, "No Ration Specified\nCannot Run Computations\n");
+    EXPECT_NE(result.Messages.find("no such file"), std::string::npos);
 }
 
 TEST_F(CommandLine, AWrongCommandLineIsStatusTwoAndPrintsNothing) {

@@ -86,7 +86,7 @@ TEST_F(Program, ASecondRunStartsFromNothing) {
     Start();
     EXPECT_EQ(TheSimulation().Comments, "");
     EXPECT_EQ(TheSimulation().MEPreg, 0);
-    EXPECT_EQ(TheProgram().DefaultZoom, "");
+    EXPECT_EQ(TheProgram().DefaultZoom, "75%");  // what the settings tab puts for none
     EXPECT_EQ(TheForms().Get<InputsForm>("frmInputs").InputTabs.Tab(), 0);
 }
 
