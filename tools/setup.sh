@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(g++ cmake ninja-build ccache libcli11-dev rapidjson-dev libsqlite3-dev
     pkg-config libpango1.0-dev fonts-liberation fonts-droid-fallback fonts-noto-core)
 if [[ ${1:-} == tests ]]; then
-    packages+=(libgtest-dev libbenchmark-dev clang libclang-rt-14-dev clang-format clang-tidy poppler-utils)
+    packages+=(libgtest-dev libbenchmark-dev clang libclang-rt-14-dev clang-format poppler-utils)
 fi
 
 missing=()

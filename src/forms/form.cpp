@@ -85,7 +85,8 @@ void Form::FinishEntry() {
 }
 
 void Form::FinishEntries() {
-    for (Form* const form : TheForms().Loaded()) form->FinishEntry();
+    for (Form* const form : TheForms().Loaded())
+        form->FinishEntry();
 }
 
 void Form::RequireUsable() const {

@@ -3,7 +3,6 @@
 #include "core/number_text.h"
 #include "core/program_state.h"
 #include "core/temperature.h"
-#include "core/temperature.h"
 
 namespace tav {
 namespace {
