@@ -168,7 +168,8 @@ TEST_F(GeneratorTest, ShortReportsShareAPageAndNoPageIsEmpty) {
     EXPECT_EQ(Make({"Pregnancy Requirements", "Dry Matter Intake"})->PageCount(), 1);
     for (const int orientation : {kPortrait, kLandscape}) {
         for (const std::string& name : ReportComponentNames(kDryCow)) {
-            for (const ReportPage& page : Make({name}, orientation)->Pages)
+            const auto document = Make({name}, orientation);
+            for (const ReportPage& page : document->Pages)
                 EXPECT_GT(page.Runs.size(), 4u) << name;
         }
     }
