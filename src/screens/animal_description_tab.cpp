@@ -8,15 +8,15 @@
 namespace tav {
 namespace {
 
-constexpr double kGreatestScore = 5;
+constexpr double kGreatestScore = 5;        // of the scale from 1 to 5
 constexpr double kGreatestLactation = 255;  // what the record's count holds
 
 }  // namespace
 
 void InputsForm::SetUpDescriptionTab() {
-    constexpr FieldColumn kAnimal = {180, 2400, 2280};
-    constexpr FieldColumn kGainColumn = {6120, 3000, 2280};
-    constexpr FieldColumn kCalf = {180, 2580, 2280};
+    constexpr FieldColumn kAnimal = {180, 2640, 2280};
+    constexpr FieldColumn kGainColumn = {6120, 3300, 2100};
+    constexpr FieldColumn kCalf = {180, 3300, 2100};
     const auto place = [this](const FieldColumn& column, Label& label, const char* caption,
                               Control& box, int top) {
         PlaceFieldOn(InputTabs, kAnimalDescription, column, label, caption, box, top);
@@ -35,7 +35,7 @@ void InputsForm::SetUpDescriptionTab() {
     PlaceCaption(chkUseTargetADG, "Use Target Average Daily Gain", 6120, 2400, 5160);
     InputTabs.Put(chkUseTargetADG, kAnimalDescription);
     fraCalfVariables.Caption = "Young Calf";
-    PlaceOn(InputTabs, kAnimalDescription, fraCalfVariables, 5940, 5040, 5340, 2025);
+    PlaceOn(InputTabs, kAnimalDescription, fraCalfVariables, 5940, 5040, 5880, 2025);
     PlaceField(kCalf, lblCalfBodyWeight, "Calf Body Weight", txtCalfBodyWeight, 480);
     PlaceField(kCalf, lblCalfTemperature, "Calf Temperature", txtCalfTemperature, 1200);
     TieDescriptionEvents();

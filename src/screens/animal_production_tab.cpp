@@ -35,13 +35,13 @@ constexpr std::array<TypicalMilk, 6> kBreeds = {{
 
 void InputsForm::SetUpProductionTab() {
     constexpr FieldColumn kWeights = {180, 2400, 1920};
-    constexpr FieldColumn kMilkColumn = {6120, 2640, 2280};
+    constexpr FieldColumn kMilkColumn = {6120, 3300, 2100};
     const auto place = [this](const FieldColumn& column, Label& label, const char* caption,
                               Control& box, int top) {
         PlaceFieldOn(InputTabs, kAnimalProduction, column, label, caption, box, top);
     };
     place(kWeights, lblBreed, "Breed", lstBreed, 780);
-    lstBreed.Height = 1740;
+    lstBreed.Height = 2160;
     place(kWeights, lblMatureWeight, "Mature Weight", txtMatureWeight, 3120);
     PlaceCaption(chkMWFromBreed, "Mature Weight from Breed", 540, 3660, 5040);
     InputTabs.Put(chkMWFromBreed, kAnimalProduction);
@@ -52,22 +52,20 @@ void InputsForm::SetUpProductionTab() {
     place(kMilkColumn, lblMilkProduction, "Milk Production", txtMilkProduction, 780);
     place(kMilkColumn, lblMilkFat, "Milk Fat", txtMilkFat, 1500);
     fraMilkProtein.Caption = "Milk Protein";
-    PlaceOn(InputTabs, kAnimalProduction, fraMilkProtein, 5940, 2220, 5400, 1980);
-    PlaceCaption(optMilkCrudeProtein, "Crude Protein", 180, 360, 2520);
-    PlaceCaption(optMilkTrueProtein, "True Protein", 180, 870, 2520);
-    txtMilkProtein.Move(2940, 1380, kMilkColumn.BoxWidth, kBoxHeight);
+    PlaceOn(InputTabs, kAnimalProduction, fraMilkProtein, 5940, 2220, 5880, 1980);
+    PlaceCaption(optMilkCrudeProtein, "Crude Protein", 180, 390, 2520);
+    PlaceCaption(optMilkTrueProtein, "True Protein", 180, 900, 2520);
+    txtMilkProtein.Move(3600, 1410, kMilkColumn.BoxWidth, kBoxHeight);
     place(kMilkColumn, lblLactose, "Lactose", txtLactose, 4560);
     TieProductionEvents();
 }
 
 void InputsForm::TieProductionEvents() {
-    constexpr double kGreatestPercentage = 100;
     for (const TypicalMilk& breed : kBreeds)
         lstBreed.AddItem(std::string(breed.Breed));
     for (NumericTextBox* const box : {&txtMilkFat, &txtMilkProtein, &txtLactose}) {
         box->Units = " (%)";
         box->Format = "0.00";
-        box->Maximum = kGreatestPercentage;
     }
     lstBreed.Click = [this] { lstBreed_Click(); };
     chkMWFromBreed.Click = [this] { chkMWFromBreed_Click(); };

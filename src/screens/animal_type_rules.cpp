@@ -50,7 +50,8 @@ void WarnOfLactationNumber(const std::string& text) {
 }  // namespace
 
 // A refusal leaves what has been done before it: the limits stay open, and after the question about
-// the feeds the record holds the new type's defaults. This is meant.
+// the feeds the record holds the new type's defaults. This is meant. The record takes the box's
+// text once nothing can be refused any more, before the fields of the type are shown.
 void InputsForm::cboAnimalType_Change() {
     SimulationRecord& r = TheSimulation();
     const std::string old = r.AnimalType;

@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kFlatTerrain = "Flat Terrain";
 constexpr const char* kHillyTerrain = "Hilly Terrain";
 constexpr const char* kNoNightCooling = "None";
-constexpr double kMostTrips = 100;
+constexpr double kMostTrips = 32766;  // the greatest even count that the record holds
 
 constexpr Limits kCelsius = {-35, 50};
 constexpr Limits kFahrenheit = {-31, 122};
@@ -53,14 +53,14 @@ void InputsForm::SetUpManagementTab() {
 }
 
 void InputsForm::SetUpGrazingFrame() {
-    constexpr FieldColumn kWalk = {3600, 5100, 2520};
+    constexpr FieldColumn kWalk = {3600, 5400, 2340};
     fraGrazing.Caption = "Grazing";
     PlaceOn(InputTabs, kManagementAndEnvironment, fraGrazing, 180, 1440, 11640, 2040);
     PlaceCaption(optGrazing, "Grazing", 180, 390, 2880);
     PlaceCaption(optNoGrazing, "No Grazing", 180, 900, 2880);
-    PlaceField(kWalk, lblTopography, "Topography", cboTopography, 360);
-    PlaceField(kWalk, lblDistance, "", txtDistance, 900);
-    PlaceField(kWalk, lblTrips, "Trips Between Pasture and Milking Center", txtTrips, 1440);
+    PlaceField(kWalk, lblTopography, "Topography", cboTopography, 390);
+    PlaceField(kWalk, lblDistance, "", txtDistance, 930);
+    PlaceField(kWalk, lblTrips, "Trips Between Pasture and Milking Center", txtTrips, 1470);
     cboTopography.AddItem(kFlatTerrain);
     cboTopography.AddItem(kHillyTerrain);
     txtTrips.Units = " / day";
@@ -71,7 +71,7 @@ void InputsForm::SetUpGrazingFrame() {
 
 void InputsForm::SetUpHeiferFields() {
     constexpr FieldColumn kLeft = {180, 2760, 2280};
-    constexpr FieldColumn kRight = {6120, 2760, 2280};
+    constexpr FieldColumn kRight = {6120, 3300, 2100};
     const auto place = [this](const FieldColumn& column, Label& label, const char* caption,
                               Control& box, int top) {
         PlaceFieldOn(InputTabs, kManagementAndEnvironment, column, label, caption, box, top);

@@ -10,7 +10,7 @@
 namespace tav {
 
 inline constexpr int kBoxHeight = 345;
-inline constexpr int kLineHeight = 300;  // of a label, an option, a check box
+inline constexpr int kLineHeight = 345;  // of a label, an option, a check box
 
 // Puts a control on a page of the tabs that hold it.
 void PlaceOn(TabControl& tabs, int page, Control& control, int left, int top, int width,

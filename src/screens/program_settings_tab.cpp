@@ -37,17 +37,17 @@ void InputsForm::SetUpSettingsTab() {
         PlaceOn(InputTabs, kProgramSettings, control, left, top, width, height);
     };
     fraUnits.Caption = "Units";
-    place(fraUnits, 180, 600, 2760, 1200);
-    PlaceCaption(optMetric, "Metric", 180, 330, 2400);
-    PlaceCaption(optEnglish, "English", 180, 750, 2400);
+    place(fraUnits, 180, 660, 2670, 1260);
+    PlaceCaption(optMetric, "Metric", 180, 390, 2310);
+    PlaceCaption(optEnglish, "English", 180, 825, 2310);
     fraBasis.Caption = "Feed Basis";
-    place(fraBasis, 3120, 600, 2760, 1200);
-    PlaceCaption(optDryMatter, "Dry Matter", 180, 330, 2400);
-    PlaceCaption(optAsFed, "As-Fed", 180, 750, 2400);
+    place(fraBasis, 3030, 660, 2670, 1260);
+    PlaceCaption(optDryMatter, "Dry Matter", 180, 390, 2310);
+    PlaceCaption(optAsFed, "As-Fed", 180, 825, 2310);
     lblComments.Caption = "Comments";
-    place(lblComments, 180, 1980, 5700, kLineHeight);
+    place(lblComments, 180, 2025, 5520, kLineHeight);
     txtComments.MultiLine = true;
-    place(txtComments, 180, 2310, 5700, 1740);
+    place(txtComments, 180, 2370, 5520, 1680);
     SetUpReportSettings();
     SetUpSummarySettings();
 
@@ -58,35 +58,35 @@ void InputsForm::SetUpSettingsTab() {
 }
 
 void InputsForm::SetUpReportSettings() {
-    constexpr FieldColumn kColumn = {180, 1500, 3720};
+    constexpr FieldColumn kColumn = {180, 1740, 3300};
     fraHeadersAndFooters.Caption = "Report Headers and Footers";
-    PlaceOn(InputTabs, kProgramSettings, fraHeadersAndFooters, 180, 4230, 5700, 3720);
-    PlaceField(kColumn, lblLeftHeader, "Left Header", cboLeftHeader, 330);
-    PlaceField(kColumn, lblCenterHeader, "Center Header", cboCenterHeader, 870);
-    PlaceField(kColumn, lblRightHeader, "Right Header", cboRightHeader, 1410);
-    PlaceField(kColumn, lblLeftFooter, "Left Footer", cboLeftFooter, 2010);
-    PlaceField(kColumn, lblCenterFooter, "Center Footer", cboCenterFooter, 2550);
-    PlaceField(kColumn, lblRightFooter, "Right Footer", cboRightFooter, 3090);
+    PlaceOn(InputTabs, kProgramSettings, fraHeadersAndFooters, 180, 4230, 5520, 3780);
+    PlaceField(kColumn, lblLeftHeader, "Left Header", cboLeftHeader, 390);
+    PlaceField(kColumn, lblCenterHeader, "Center Header", cboCenterHeader, 930);
+    PlaceField(kColumn, lblRightHeader, "Right Header", cboRightHeader, 1470);
+    PlaceField(kColumn, lblLeftFooter, "Left Footer", cboLeftFooter, 2070);
+    PlaceField(kColumn, lblCenterFooter, "Center Footer", cboCenterFooter, 2610);
+    PlaceField(kColumn, lblRightFooter, "Right Footer", cboRightFooter, 3150);
     for (ComboBox* const box : {&cboLeftHeader, &cboCenterHeader, &cboRightHeader, &cboLeftFooter,
                                 &cboCenterFooter, &cboRightFooter}) {
         box->FreeText = true;
         for (const char* const field : kPageFields)
             box->AddItem(field);
     }
-    PlaceFieldOn(InputTabs, kProgramSettings, {180, 2280, 3120}, lblDefaultZoom,
+    PlaceFieldOn(InputTabs, kProgramSettings, {180, 2460, 2940}, lblDefaultZoom,
                  "Report Preview Zoom", cboDefaultZoom, 8280);
     for (const char* const zoom : kZooms)
         cboDefaultZoom.AddItem(zoom);
 }
 
 void InputsForm::SetUpSummarySettings() {
-    constexpr FieldColumn kColumn = {180, 900, 4320};
+    constexpr FieldColumn kColumn = {180, 900, 4500};
     fraSummaryResults.Caption = "Ration Results";
-    PlaceOn(InputTabs, kProgramSettings, fraSummaryResults, 6120, 600, 5700, 7350);
-    PlaceCaption(chkDefaultSumRes, "Use the Default Results of the Animal Type", 180, 360, 5340);
+    PlaceOn(InputTabs, kProgramSettings, fraSummaryResults, 5940, 660, 5880, 7350);
+    PlaceCaption(chkDefaultSumRes, "Use the Default Results of the Animal Type", 120, 390, 5700);
     for (int i = 0; i < cboSumRes.Count(); ++i) {
         PlaceField(kColumn, lblSumRes[i], "Line " + std::to_string(i + 1), cboSumRes[i],
-                   930 + i * 630);
+                   960 + i * 630);
     }
 }
 

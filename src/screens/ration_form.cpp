@@ -35,9 +35,9 @@ RationForm::RationForm() : ScreenForm("Ration") {
 }
 
 void RationForm::PlaceControls() {
-    constexpr FieldColumn kIntake = {6000, 1620, 2160};
-    lblBasisLabel.Move(180, 180, 5640, kLineHeight);
-    grdRation.Move(180, 600, 5640, 8220);
+    constexpr FieldColumn kIntake = {5640, 1620, 2160};
+    lblBasisLabel.Move(180, 180, 5280, kLineHeight);
+    grdRation.Move(180, 600, 5280, 8220);
     grdRation.FontSize = 10;
     grdRation.FixedRows = 1;
     grdRation.FixedCols = 1;
@@ -48,16 +48,16 @@ void RationForm::PlaceControls() {
     txtTotalIntake.Format = "0.000";
     cmdEstimateIntake.Caption = "&Estimate Intake";
     cmdEstimateIntake.ToolTip = "Give the ration the predicted intake, with the same shares";
-    cmdEstimateIntake.Move(6000, 1200, 2760, 495);
+    cmdEstimateIntake.Move(5640, 1200, 3000, 540);
     cmdResetIntake.Caption = "&Set to 100%";
     cmdResetIntake.ToolTip = "Make the total intake the sum of the quantities";
-    cmdResetIntake.Move(9060, 1200, 2760, 495);
+    cmdResetIntake.Move(8820, 1200, 3000, 540);
     lblRDPWarning.Caption = "RDP Limiting - Energy Estimates May Be Erroneous";
     lblRDPWarning.Visible = false;
-    lblRDPWarning.Move(6000, 1920, 5820, kLineHeight);
+    lblRDPWarning.Move(5640, 1920, 6180, kLineHeight);
     fraSummaryResults.Caption = "Ration Results";
-    fraSummaryResults.Move(6000, 2460, 5820, 6360);
-    lblResults.ForEach([](Label& label, int i) { label.Move(120, 450 + i * 570, 5580, 405); });
+    fraSummaryResults.Move(5640, 2460, 6180, 6360);
+    lblResults.ForEach([](Label& label, int i) { label.Move(120, 450 + i * 570, 5940, 405); });
 }
 
 void RationForm::TieEvents() {
@@ -68,6 +68,7 @@ void RationForm::TieEvents() {
     grdRation.AfterEdit = [this](int row, int col) { grdRation_AfterEdit(row, col); };
     grdRation.LeaveCell = [this](int row, int col) { grdRation_LeaveCell(row, col); };
     txtTotalIntake.GotFocus = [this] { txtTotalIntake_GotFocus(); };
+    txtTotalIntake.ValueEntered = [this] { totalIsPending_ = true; };
     txtTotalIntake.LostFocus = [this] { ApplyTotalIntake(); };
     cmdEstimateIntake.Click = [this] { cmdEstimateIntake_Click(); };
     cmdResetIntake.Click = [this] { cmdResetIntake_Click(); };
@@ -195,9 +196,7 @@ void RationForm::UpdateRationTotals() {
         Number sum;
         for (int row = kFirstFeedRow; row <= LastFeedRow(); ++row)
             sum += CellNumber(row, kShare);
-        // In 32 bits, so that shares of two decimals can add up.
-        const bool whole = Single(sum) == 100;
-        share = whole ? "100%" : FormatNumber(sum.Value(), "0.0") + "%";
+        share = sum == 100 ? "100%" : FormatNumber(sum.Value(), "0.0") + "%";
     }
     grdRation.SetTextMatrix(TotalsRow(), kShare, share);
 }

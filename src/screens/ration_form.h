@@ -48,7 +48,8 @@ class RationForm : public ScreenForm {
     void ShowSummaryResults(Single totalDMI);
 
     void SetUp() override { FillRationInput(); }
-    void Store() override { RetrieveRation(); }
+    // A total that has been entered but not left yet is carried into the ration first.
+    void Store() override;
 
   private:
     enum Column : int { kName, kQuantity, kShare, kColumns };
@@ -80,6 +81,8 @@ class RationForm : public ScreenForm {
     void cmdEstimateIntake_Click();
     void ShowPrediction(Single predicted);
     void EstimateOnAsFedBasis(Single predicted);
+
+    bool totalIsPending_ = false;  // a total has been entered that the ration doesn't follow yet
 };
 
 }  // namespace tav

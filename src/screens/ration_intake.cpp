@@ -8,7 +8,14 @@
 
 namespace tav {
 
+// Another screen, the exit or a save may come while the user is still at the total.
+void RationForm::Store() {
+    if (totalIsPending_) ApplyTotalIntake();
+    RetrieveRation();
+}
+
 void RationForm::ApplyTotalIntake() {
+    totalIsPending_ = false;
     const Number total = Total();
     if (total == 0) {
         for (int row = kFirstFeedRow; row <= LastFeedRow(); ++row)

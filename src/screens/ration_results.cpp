@@ -28,8 +28,6 @@ void RationForm::ShowResults() {
                                           program.SummaryResultsNames[static_cast<std::size_t>(i)],
                                           program.UseMetric);
     });
-    program.WeightUnitLabel = program.UseMetric ? " (kg/day)" : " (lbs/day)";
-    program.WeightUnitFactor = program.UseMetric ? 1 : 2.20462;
 }
 
 }  // namespace tav

@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "core/program_state.h"
+#include "screens/quantity.h"
 
 #include <algorithm>
 
@@ -31,25 +32,26 @@ enum class Unit {
 };
 
 struct UnitText {
-    const char* Metric;
-    const char* English;
-    double EnglishFactor;
+    std::string Text;
+    Number Factor;
 };
 
-UnitText TextOf(Unit unit) {
+// A weight a day has the working unit, the rest units of its own.
+UnitText TextOf(Unit unit, bool metric) {
+    const Number perWeight = metric ? 1 : 1 / kPoundsPerKilogram;
     switch (unit) {
-        case Unit::WeightPerDay: return {" (kg/day)", " (lbs/day)", kPoundsPerKilogram};
-        case Unit::EnergyDensity:
-            return {" (Mcal/kg DM)", " (Mcal/lbs DM)", 1 / kPoundsPerKilogram};
-        case Unit::CalfEnergyDensity: return {" (Mcal/kg)", " (Mcal/lbs)", 1 / kPoundsPerKilogram};
-        case Unit::McalPerDay: return {" (Mcal/day)", " (Mcal/day)", 1};
-        case Unit::GramsPerDay: return {" (g/day)", " (g/day)", 1};
-        case Unit::GramsShort: return {" (g/d)", " (g/d)", 1};
-        case Unit::Grams: return {" (g)", " (g)", 1};
-        case Unit::PercentDM: return {" (%DM)", " (%DM)", 1};
-        case Unit::Percent: return {"%", "%", 1};
+        case Unit::WeightPerDay:
+            return {TheProgram().WeightUnitLabel, TheProgram().WeightUnitFactor};
+        case Unit::EnergyDensity: return {metric ? " (Mcal/kg DM)" : " (Mcal/lbs DM)", perWeight};
+        case Unit::CalfEnergyDensity: return {metric ? " (Mcal/kg)" : " (Mcal/lbs)", perWeight};
+        case Unit::McalPerDay: return {" (Mcal/day)", 1};
+        case Unit::GramsPerDay: return {" (g/day)", 1};
+        case Unit::GramsShort: return {" (g/d)", 1};
+        case Unit::Grams: return {" (g)", 1};
+        case Unit::PercentDM: return {" (%DM)", 1};
+        case Unit::Percent: return {"%", 1};
     }
-    return {"", "", 1};
+    return {"", 1};
 }
 
 // One choice: the line's beginning, its value (a field, or an expression where there is none), mask
@@ -163,12 +165,9 @@ constexpr std::array<SummaryChoices, 4> kDefaults = {{
      "(CALF) Crude Protein Balance"},
 }};
 
-std::string ValueText(const Record& r, const Choice& choice, bool metric) {
-    const UnitText unit = TextOf(choice.UnitOfValue);
-    const double factor = metric ? 1 : unit.EnglishFactor;
-    if (choice.Field != nullptr && factor == 1) return FormatNumber(r.*choice.Field, choice.Mask);
-    const Number value = choice.Field != nullptr ? Number(r.*choice.Field) : choice.Expression(r);
-    return FormatNumber((value * factor).Value(), choice.Mask);
+std::string ValueText(const Record& r, const Choice& choice, Number factor) {
+    if (choice.Field != nullptr) return ScaledText(r.*choice.Field, factor, choice.Mask);
+    return FormatNumber((choice.Expression(r) * factor).Value(), choice.Mask);
 }
 
 template <class Choices>
@@ -181,7 +180,7 @@ const Choice* Find(const Choices& choices, std::string_view name) {
 bool Fits(const Record& r, const Choice& choice, bool calfLine) {
     if (calfLine != (r.AnimalType == kYoungCalf)) return false;
     const bool milkLine = &choice >= kChoices.data() && &choice < kChoices.data() + 3;
-    return !milkLine || (r.AnimalType != kDryCow && r.AnimalType != kReplacementHeifer);
+    return !milkLine || r.AnimalType == kLactatingCow;
 }
 
 }  // namespace
@@ -214,6 +213,8 @@ void TakeDefaultSummaryChoices() {
 }
 
 std::string SummaryResultText(const Record& record, std::string_view choice, bool metric) {
+    TheProgram().WeightUnitLabel = metric ? " (kg/day)" : " (lbs/day)";
+    TheProgram().WeightUnitFactor = metric ? 1 : kPoundsPerKilogram;
     if (choice == kDaysToChange) {
         return record.AnimalType == kYoungCalf ? std::string() : record.DaysToChangeCSText;
     }
@@ -222,8 +223,8 @@ std::string SummaryResultText(const Record& record, std::string_view choice, boo
     if (calfLine) line = Find(kCalfChoices, choice);
     if (line == nullptr) return {};
     if (!Fits(record, *line, calfLine)) return line->NotApplicable;
-    const UnitText unit = TextOf(line->UnitOfValue);
-    return line->Prefix + ValueText(record, *line, metric) + (metric ? unit.Metric : unit.English);
+    const UnitText unit = TextOf(line->UnitOfValue, metric);
+    return line->Prefix + ValueText(record, *line, unit.Factor) + unit.Text;
 }
 
 bool DegradedProteinIsLimiting(const Record& record) {

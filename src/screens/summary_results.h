@@ -31,7 +31,8 @@ inline constexpr std::array<std::string_view, 2> kNoRationTexts = {"No Ration Sp
                                                                    "Cannot Run Computations"};
 
 // The line of a choice such as "MP Balance", in metric or English units. A choice that does not fit
-// the animal type gives an "N/A" text, "Blank" and any unknown text an empty line.
+// the animal type gives an "N/A" text, "Blank" and any unknown text an empty line. Leaves the unit
+// of weight a day as the shared working unit.
 std::string SummaryResultText(const SimulationRecord& record, std::string_view choice, bool metric);
 
 // True when degraded protein falls so far short that energy estimates may be wrong: more than 20

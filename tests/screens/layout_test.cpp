@@ -5,6 +5,7 @@
 #include "screens/inputs_form.h"
 #include "screens/ration_form.h"
 
+#include <algorithm>
 #include <map>
 
 #include <gtest/gtest.h>
@@ -14,9 +15,14 @@ namespace {
 
 constexpr double kDesignWidth = 12000;  // 800 by 600 pixels at 15 units
 constexpr double kDesignHeight = 9000;
+constexpr double kMark = 300;  // the circle or square before an option's caption
+
+// What is drawn in letters keeps its height on a display of any size, and no letters are smaller
+// than 9 points.
 constexpr double kFrameTitle = 240;
 constexpr double kTabRow = 420;
-constexpr double kMark = 300;  // the circle or square before an option's caption
+constexpr double kLeastPoints = 9;
+constexpr double kLineOfAPoint = 23.4;  // units
 constexpr double kRounding = 1;
 
 // What the main window leaves to a screen on the smallest display, 800 by 600 pixels.
@@ -42,11 +48,10 @@ Box RoomOf(const Control& control) {
     const double height = Number(control.Owner().Height).Value();
     if (container == nullptr) return {0, 0, width, height};
     if (container->Kind() == ControlKind::TabControl) {
-        return {0, kTabRow * height / kDesignHeight, width, height};
+        return {0, kTabRow, width, height};
     }
     const Box frame = PlaceOf(*container);
-    return {0, kFrameTitle * height / kDesignHeight, frame.Right - frame.Left,
-            frame.Bottom - frame.Top};
+    return {0, kFrameTitle, frame.Right - frame.Left, frame.Bottom - frame.Top};
 }
 
 bool Overlap(const Box& a, const Box& b) {
@@ -58,12 +63,16 @@ bool IsEntry(const Control& control) {
     return control.TakesFocus() && control.Kind() != ControlKind::TabControl;
 }
 
+double PointsOf(const Control& control) {
+    return std::max(Number(control.FontSize).Value(), kLeastPoints);
+}
+
 // Letters are a little wider than half their height, in points of 20 units.
 double CaptionWidth(const CaptionedControl& control) {
     const bool marked =
         control.Kind() == ControlKind::OptionButton || control.Kind() == ControlKind::CheckBox;
-    const double letter = Number(control.FontSize).Value() * 11;
-    return static_cast<double>(control.Caption.size()) * letter + (marked ? kMark : 0);
+    return static_cast<double>(control.Caption.size()) * PointsOf(control) * 11 +
+           (marked ? kMark : 0);
 }
 
 // The controls that share a container, page by page; the tabs themselves cover the form.
@@ -134,7 +143,19 @@ TYPED_TEST(Layout, CaptionsFit) {
         const auto* const captioned = dynamic_cast<const CaptionedControl*>(control);
         if (captioned == nullptr || !control->HasPlace()) continue;
         EXPECT_LE(CaptionWidth(*captioned), Number(control->Width).Value()) << control->FullName();
+        EXPECT_LE(PointsOf(*control) * kLineOfAPoint, Number(control->Height).Value())
+            << control->FullName();
     }
+}
+
+// Captions that the screens set themselves.
+TEST(Layout, ChangingCaptionsFit) {
+    OnTheSmallestDisplay<InputsForm> inputs;
+    inputs.lblDistance.Caption = "Distance Between Pasture and Milking Center";
+    EXPECT_LE(CaptionWidth(inputs.lblDistance), Number(inputs.lblDistance.Width).Value());
+    AsDesigned<RationForm> ration;
+    ration.lblResults[4].Caption = "Energy Allowable ADG with Conceptus :  0.90 (lbs/day)";
+    EXPECT_LE(CaptionWidth(ration.lblResults[4]), Number(ration.lblResults[4].Width).Value());
 }
 
 TYPED_TEST(Layout, EveryFieldIsLabelled) {

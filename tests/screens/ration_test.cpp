@@ -69,6 +69,53 @@ TEST_F(Ration, WithoutQuantitiesTheModelDoesNotRun) {
     EXPECT_EQ(RunsSincePlanted(), Runs::None);
 }
 
+TEST_F(Ration, ATotalThatIsNotLeftYetCountsWhenTheScreenIsStored) {
+    LoadSample("Lactating Cow.tav");
+    RationForm& form = Open();
+    form.txtTotalIntake.UserEnter();
+    form.txtTotalIntake.UserType("20");
+    TheForms().Unload("frmRation");
+    EXPECT_EQ(TheSimulation().Feeds[0].Qty, Single(7.1));
+    EXPECT_NEAR(TheSimulation().TotalDMI.Value(), 20, 0.01);
+    // A save stores it as well, once, and the user is still there.
+    RationForm& again = Open();
+    again.txtTotalIntake.UserEnter();
+    again.txtTotalIntake.UserType("10");
+    Form::FinishEntries();
+    again.Store();
+    EXPECT_EQ(TheSimulation().Feeds[0].Qty, Single(3.549));  // 35.49 %, of two decimals
+    EXPECT_EQ(again.Focus(), &again.txtTotalIntake);
+    again.grdRation.SetTextMatrix(2, 1, "4");
+    again.Store();
+    EXPECT_EQ(TheSimulation().Feeds[0].Qty, 4);
+}
+
+// Shares have two decimals: scaling by them would round the small quantities.
+TEST_F(Ration, StandingAtTheTotalWithoutAnEntryChangesNothing) {
+    LoadSample("Lactating Cow.tav");
+    const Single before = TheSimulation().Feeds[8].Qty;
+    Open().txtTotalIntake.UserEnter();
+    TheForms().Unload("frmRation");
+    EXPECT_EQ(TheSimulation().Feeds[8].Qty, before);
+}
+
+TEST_F(Ration, OnlySharesThatAddUpExactlyAreAHundred) {
+    LoadSample("Lactating Cow.tav");
+    RationForm& form = Open();
+    const auto totalOf = [&](const char* first, const char* second, const char* third) {
+        for (int row = 5; row <= TheSimulation().NumFeeds + 1; ++row)
+            form.grdRation.SetTextMatrix(row, 2, "0.00 %");
+        form.grdRation.SetTextMatrix(2, 2, first);
+        form.grdRation.SetTextMatrix(3, 2, second);
+        form.grdRation.SetTextMatrix(4, 2, third);
+        form.UpdateRationTotals();
+        return form.grdRation.TextMatrix(TheSimulation().NumFeeds + 3, 2);
+    };
+    EXPECT_EQ(totalOf("25 %", "25.00 %", "50%"), "100%");
+    EXPECT_EQ(totalOf("28.72 %", "35.48 %", "35.80 %"), "100.0%");
+    EXPECT_EQ(totalOf("28.72 %", "35.48 %", "35.90 %"), "100.1%");
+}
+
 TEST_F(Ration, AFaultOfTheModelLeavesTheEventAndEndsTheProgram) {
     LoadSample("Lactating Cow.tav");
     RationForm& form = Open();

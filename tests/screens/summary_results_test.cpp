@@ -196,6 +196,35 @@ TEST(SummaryChoices, AllThatAreOfferedAreLinesOfSomeAnimal) {
     }
 }
 
+// What a strange animal has in common with the others is computed, milk is not.
+TEST(SummaryResultText, AStrangeAnimalGivesNoMilk) {
+    SimulationRecord r = Animal("Water Buffalo");
+    r.MilkProduction = 8;
+    r.DietCP = 0.12;
+    EXPECT_EQ(SummaryResultText(r, "Entered Milk Production", true),
+              "Entered Milk Production :  N/A");
+    EXPECT_EQ(SummaryResultText(r, "MP Allowable Milk", true), "MP Allowable Milk :  N/A");
+    EXPECT_EQ(SummaryResultText(r, "Diet CP", true), "Diet CP :  12.0 (%DM)");
+    EXPECT_EQ(SummaryResultText(r, "(CALF) Diet CP", true), "(CALF) Diet CP :  N/A");
+}
+
+// Pounds come from the working factor, which has 32 bits: 250 kg fall short of 551.155 lbs.
+TEST(SummaryResultText, TakesAndLeavesTheWorkingUnit) {
+    SimulationRecord r = Animal(kLactatingCow);
+    r.PredDMI = 250;
+    EXPECT_EQ(SummaryResultText(r, "Predicted Dry Matter Intake", false),
+              "DMI - Predicted :  551.15 (lbs/day)");
+    for (const char* const choice : {"Diet NEl", "Blank", "Days To Change 1 Condition Score"}) {
+        TheProgram().WeightUnitLabel = "cm";
+        SummaryResultText(r, choice, false);
+        EXPECT_EQ(TheProgram().WeightUnitLabel, " (lbs/day)") << choice;
+        EXPECT_EQ(TheProgram().WeightUnitFactor, Single(2.20462)) << choice;
+        SummaryResultText(r, choice, true);
+        EXPECT_EQ(TheProgram().WeightUnitLabel, " (kg/day)") << choice;
+        EXPECT_EQ(TheProgram().WeightUnitFactor, 1) << choice;
+    }
+}
+
 TEST(SummaryChoices, AStrangeAnimalTypeLeavesThemAsTheyAre) {
     TheProgram() = {};
     TheProgram().SummaryResultsNames[3] = "Diet CP";
