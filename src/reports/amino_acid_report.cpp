@@ -45,7 +45,7 @@ void WriteTotals(ReportWriter& w) {
     w.Line("Total RUP :  ", (units.Metric() ? Plain(r.TotalRUP * 1000, "0")
                                             : Plain(r.TotalRUP * kPoundsPerKilogram, "0.000")) +
                                 perDay);
-    w.Line("Total MCP :  ", units.GramsNumber(r.MCP) + perDay);
+    w.Line("Total MCP :  ", units.GramsInSteps(r.MCP) + perDay);
 }
 
 void WriteTable(ReportWriter& w) {

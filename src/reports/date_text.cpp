@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <utility>
 
 namespace tav {
 namespace {
@@ -43,9 +44,12 @@ std::string Written(const char* pattern, Values... values) {
     return std::string(buffer.data(), static_cast<std::size_t>(length));
 }
 
-}  // namespace
+DateWriter& Writer() {
+    static DateWriter writer;
+    return writer;
+}
 
-std::string DateText(DateTime time, DateForm form) {
+std::string EnglishText(DateTime time, DateForm form) {
     const Moment m(time);
     switch (form) {
         case DateForm::General:
@@ -62,5 +66,13 @@ std::string DateText(DateTime time, DateForm form) {
     }
     return {};
 }
+
+}  // namespace
+
+std::string DateText(DateTime time, DateForm form) {
+    return Writer() ? Writer()(time, form) : EnglishText(time, form);
+}
+
+void SetDateWriter(DateWriter writer) { Writer() = std::move(writer); }
 
 }  // namespace tav

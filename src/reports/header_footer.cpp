@@ -16,7 +16,7 @@ struct DateField {
 };
 
 // Short dates and times are one step longer than their names say; this is meant.
-constexpr std::array<DateField, 8> kDateFields = {{
+constexpr std::array<DateField, 7> kDateFields = {{
     {"General Date", DateForm::General},
     {"Long Date", DateForm::LongDate},
     {"Medium Date", DateForm::MediumDate},
@@ -24,7 +24,6 @@ constexpr std::array<DateField, 8> kDateFields = {{
     {"Long Time", DateForm::LongTime},
     {"Short Time", DateForm::MediumTime},
     {"24 Hr Time", DateForm::ShortTime},
-    {"24 Hr Time (15:27)", DateForm::ShortTime},  // as the choice reads on the screen
 }};
 
 bool HoldsExtension(std::string_view name) {

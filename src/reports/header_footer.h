@@ -13,7 +13,8 @@ namespace tav {
 // in it.
 std::string FileStem(std::string_view fileName);
 
-// The text of a field at that time. A field that is no name of a text is the text.
+// The text of a field at that time. A field that is no name of a text is the text; so is the choice
+// of the settings screen that shows an example behind its name, which is meant.
 std::string FieldText(std::string_view field, DateTime now);
 
 // Left, centre and right, joined with bars.

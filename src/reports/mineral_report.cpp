@@ -7,7 +7,6 @@
 namespace tav {
 namespace {
 
-constexpr float kTableFontSize = 9;  // so that a cow's three tables stand on one page
 constexpr std::string_view kLabelWidth = "Total Absorbable Mineral Supplied      ";
 
 using Cell = std::function<std::string(const MineralRow& row, std::size_t column)>;
@@ -26,6 +25,7 @@ ReportGrid StartTable(ReportWriter& w, const MineralTableKind& table) {
     ReportGrid grid(w, columns, kFullGrid);
     grid.SetHeadingRows(2);
     grid.FixWidth(1, std::string(kLabelWidth));
+    grid.FillWidth();
     ReportGrid::Cells heads = {""};
     heads.insert(heads.end(), table.Names.begin(), table.Names.end());
     grid.Row(std::move(heads));
@@ -52,7 +52,7 @@ bool HasDoneGrowing(const SimulationRecord& r) {
     return !(r.CalvingInterval + r.AgeAtFirstCalving > r.Age) && r.LactationNumber > 1;
 }
 
-void WriteTable(ReportWriter& w, const MineralTableKind& table) {
+ReportGrid AdultTable(ReportWriter& w, const MineralTableKind& table) {
     const auto amount = [&](const char* label, ReportGrid& grid, Single MineralRow::*field) {
         AddRow(w, grid, table, label, [&](const MineralRow& row, std::size_t) {
             return Plain(row.*field, table.AmountMask);
@@ -83,15 +83,14 @@ void WriteTable(ReportWriter& w, const MineralTableKind& table) {
                DensityUnit(table, column, w.Units());
     });
     grid.KeepWhole();
-    grid.Write();
+    return grid;
 }
 
-void WriteCalfTable(ReportWriter& w, const MineralTableKind& table) {
+ReportGrid CalfTable(ReportWriter& w, const MineralTableKind& table) {
     ReportGrid grid = StartTable(w, table);
     AddRow(w, grid, table, "Ration Density", [&](const MineralRow&, std::size_t column) {
         return CalfDensityUnit(table, column, w.Units());
     });
-    grid.EmptyRow();
     // The target of a major mineral is a percentage as it stands.
     AddRow(w, grid, table, "Desired Ration Density", [&](const MineralRow& row, std::size_t) {
         return table.IsVitamins ? Density(w, table, row.DesiredRationDensity, table.DesiredMask)
@@ -101,8 +100,9 @@ void WriteCalfTable(ReportWriter& w, const MineralTableKind& table) {
     AddRow(w, grid, table, "Actual Ration Density", [&](const MineralRow& row, std::size_t) {
         return Density(w, table, row.RationDensity, table.DesiredMask);
     });
+    grid.EmptyRow();
     grid.KeepWhole();
-    grid.Write();
+    return grid;
 }
 
 }  // namespace
@@ -110,17 +110,23 @@ void WriteCalfTable(ReportWriter& w, const MineralTableKind& table) {
 void WriteMineralRequirements(ReportWriter& w) {
     const bool calf = w.Record().AnimalType == kYoungCalf;
     StartPage(w);
-    w.StartComponent(calf ? 30 : 20, "Mineral Requirements", 0);
-    for (const MineralTableKind& table : MineralTables()) {
-        w.Heading(table.Heading, calf ? 5 : 10);
-        if (!calf) w.Sink().SetFontSize(kTableFontSize);
-        if (calf) {
-            WriteCalfTable(w, table);
-        } else {
-            WriteTable(w, table);
-        }
+    w.StartComponent(20, "Mineral Requirements");
+    std::vector<ReportGrid> grids;
+    for (const MineralTableKind& table : MineralTables())
+        grids.push_back(calf ? CalfTable(w, table) : AdultTable(w, table));
+    // The three have one font, that of the widest.
+    for (ReportGrid& grid : grids)
+        grid.FitFont();
+    const float size = w.Sink().FontSize();
+    for (std::size_t i = 0; i < grids.size(); ++i) {
+        w.Sink().SetFontSize(size);
+        const Twips height = grids[i].Height();
         w.Sink().SetFontSize(w.State().BodyFontSize);
+        w.HeadingWith(MineralTables()[i].Heading, height);
+        w.Sink().SetFontSize(size);
+        grids[i].Write();
     }
+    w.Sink().SetFontSize(w.State().BodyFontSize);
 }
 
 }  // namespace tav

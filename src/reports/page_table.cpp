@@ -71,7 +71,10 @@ void PageLayout::EndTable() {
         const TableRow& row = layout.Rows()[static_cast<std::size_t>(i)];
         const Twips height = layout.RowHeight(row, row.Lines);
         const Twips top = MarginTop + (i < headings ? 0 : HeightOfRows(layout, 0, repeatedRows));
-        if (y_ + height > Bottom() + kTolerance && y_ > top + kTolerance) {
+        // A row that no page holds begins where it is.
+        const bool isLong = height > Bottom() - top + kTolerance;
+        const Twips needed = isLong ? layout.RowHeight(row, 1) : height;
+        if (y_ + needed > Bottom() + kTolerance && y_ > top + kTolerance) {
             BreakTable(layout, i < headings ? 0 : repeatedRows);
         }
         Page().Text += RowText(table_, i + 1) + '\n';

@@ -106,8 +106,8 @@ void ReportGrid::SetWidths() {
     }
 }
 
-// Where the columns are too wide even so, the font is made smaller.
 void ReportGrid::FitFont() {
+    MeasureCells();
     ReportSink& sink = writer_.Sink();
     std::vector<std::string> row;
     for (std::size_t column = 0; column < columns_.size(); ++column) {
@@ -121,6 +121,16 @@ void ReportGrid::FitFont() {
     sink.FontBold = false;
 }
 
+Twips ReportGrid::Height() const {
+    Twips height = 0;
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+        const bool empty = std::all_of(rows_[row].begin(), rows_[row].end(),
+                                       [](const std::string& cell) { return cell.empty(); });
+        height += TableRowHeight(empty ? 0 : 1, writer_.Sink().FontSize(), border_);
+    }
+    return height;
+}
+
 // The first column takes what the others leave.
 void ReportGrid::ShareWidths() {
     Twips others = 0;
@@ -131,14 +141,34 @@ void ReportGrid::ShareWidths() {
     if (left > 0) first = std::min(first, left);
 }
 
+// The narrowest columns of numbers grow to the width of the next one, then all of these on
+// together.
+void ReportGrid::EvenOut() {
+    std::vector<Width*> numbers;
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        if (columns_[column] == ColumnAlign::Decimal) numbers.push_back(&widths_[column]);
+    }
+    std::sort(numbers.begin(), numbers.end(),
+              [](const Width* a, const Width* b) { return a->Final < b->Final; });
+    Twips left = writer_.BodyWidth() - TotalWidth();
+    for (std::size_t count = 1; count <= numbers.size() && left > 0; ++count) {
+        const Twips own = numbers[count - 1]->Final;
+        Twips growth = left / static_cast<double>(count);
+        if (count < numbers.size()) growth = std::min(growth, numbers[count]->Final - own);
+        for (std::size_t i = 0; i < count; ++i)
+            numbers[i]->Final = own + growth;
+        left -= growth * static_cast<double>(count);
+    }
+}
+
 void ReportGrid::Write() {
     ReportSink& sink = writer_.Sink();
     const float size = sink.FontSize();
-    MeasureCells();
     FitFont();
     MeasureCells();
     SetWidths();
     ShareWidths();
+    if (fillsWidth_) EvenOut();
     sink.StartTable();
     sink.TableBorder = border_;
     ReportTable& table = sink.TableCell();

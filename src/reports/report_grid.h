@@ -28,8 +28,18 @@ class ReportGrid {
     void FixWidth(int column, Twips width);
     void FixWidth(int column, std::string sample);
 
+    // Makes the font smaller until the table is not too wide for the page.
+    void FitFont();
+
+    // How high it is in the font at hand, with each row a line.
+    Twips Height() const;
+
     // Keeps the table on one page where one can hold it.
     void KeepWhole() { keepWhole_ = true; }
+
+    // Spreads the columns of numbers over the width of the page, as even as what stands in them
+    // lets them be.
+    void FillWidth() { fillsWidth_ = true; }
 
     // Writes the table. Where it is too wide for the page the font is made smaller, and the text of
     // the first column, such as a feed's name, goes on in a second line.
@@ -56,14 +66,15 @@ class ReportGrid {
     void SetWidths();
     void SetWidths(Spacing spacing);
     Twips TotalWidth() const;
-    void FitFont();
     void ShareWidths();
+    void EvenOut();
 
     ReportWriter& writer_;
     std::vector<ColumnAlign> columns_;
     TableBorders border_;
     int headingRows_ = 0;
     bool keepWhole_ = false;
+    bool fillsWidth_ = false;
     std::vector<Cells> rows_;
     std::vector<Width> widths_;
 };

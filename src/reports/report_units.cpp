@@ -11,11 +11,12 @@ std::string InBrackets(const std::string& unit) { return " (" + unit + ")"; }
 
 }  // namespace
 
-std::string ReportValue::Text(std::string_view mask, Number factor) const {
-    const bool unchanged = isField_ && factor == 1;
-    if (mask.empty()) return NumberText(Single(value_ * factor));
+std::string ReportValue::Text(std::string_view mask, Number factor, Number divisor) const {
+    const bool unchanged = isField_ && factor == 1 && divisor == 1;
+    const Number converted = value_ / divisor * factor;
+    if (mask.empty()) return NumberText(Single(converted));
     if (unchanged) return FormatNumber(Single(value_), mask);
-    return FormatNumber((value_ * factor).Value(), mask);
+    return FormatNumber(converted.Value(), mask);
 }
 
 std::string Plain(ReportValue value, std::string_view mask, std::string_view unit) {
@@ -48,6 +49,14 @@ std::string ReportUnits::GramsNumber(ReportValue grams, std::string_view mask) c
     return grams.Text(mask, metric_ ? 1 : kPoundsPerGram);
 }
 
+std::string ReportUnits::GramsInSteps(ReportValue grams) const {
+    return GramsInSteps(grams, Choose("0", "0.000"));
+}
+
+std::string ReportUnits::GramsInSteps(ReportValue grams, std::string_view mask) const {
+    return metric_ ? grams.Text(mask) : grams.Text(mask, kPoundsPerKilogram, 1000);
+}
+
 std::string ReportUnits::DensityNumber(ReportValue perKilogram, std::string_view mask) const {
     return perKilogram.Text(mask, metric_ ? 1 : 1 / kPoundsPerKilogram);
 }
@@ -57,8 +66,10 @@ std::string ReportUnits::Converted(ReportValue value, std::string_view mask,
     return metric_ ? value.Text(mask) : value.Text(mask, englishFactor);
 }
 
+std::string ReportUnits::WeightUnit() const { return InBrackets(Mass()); }
+
 std::string ReportUnits::Weight(ReportValue kilograms, std::string_view mask) const {
-    return WeightNumber(kilograms, mask) + InBrackets(Mass());
+    return WeightNumber(kilograms, mask) + WeightUnit();
 }
 
 std::string ReportUnits::WeightPerDay(ReportValue kilograms, std::string_view mask) const {
@@ -74,7 +85,8 @@ std::string ReportUnits::Protein(ReportValue grams, std::string_view mask) const
 }
 
 std::string ReportUnits::EnergyDensity(ReportValue perKilogram) const {
-    return DensityNumber(perKilogram, "0.00") + std::string(Choose(" (Mcal/kg)", " (Mcal/lbs)"));
+    return perKilogram.Text("0.00", 1, metric_ ? 1 : kPoundsPerKilogram) +
+           std::string(Choose(" (Mcal/kg)", " (Mcal/lbs)"));
 }
 
 std::string ReportUnits::Temperature(Single celsius, std::string_view mask,

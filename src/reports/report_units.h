@@ -17,9 +17,9 @@ class ReportValue {
     ReportValue(Number expression) : value_(expression) {}
     ReportValue(int count) : value_(count) {}
 
-    // The value times the factor by a mask such as "0.00", or in the general form of a 32-bit
-    // number where there is no mask.
-    std::string Text(std::string_view mask, Number factor = 1) const;
+    // The value divided by the divisor and times the factor, by a mask such as "0.00", or in the
+    // general form of a 32-bit number where there is no mask.
+    std::string Text(std::string_view mask, Number factor = 1, Number divisor = 1) const;
 
   private:
     Number value_;
@@ -48,12 +48,18 @@ class ReportUnits {
     std::string WeightNumber(ReportValue kilograms, std::string_view mask) const;
     std::string GramsNumber(ReportValue grams) const;
     std::string GramsNumber(ReportValue grams, std::string_view mask) const;
+    // The same in two steps, by way of kilograms: what is halfway between two decimals may fall to
+    // the other side.
+    std::string GramsInSteps(ReportValue grams) const;
+    std::string GramsInSteps(ReportValue grams, std::string_view mask) const;
     std::string DensityNumber(ReportValue perKilogram, std::string_view mask) const;
 
     // The number times the 32-bit factor in English units.
     std::string Converted(ReportValue value, std::string_view mask, Single englishFactor) const;
 
-    // Numbers with the unit behind them: " (kg)", " (kg/day)", " (g/day)", " (Mcal/kg)".
+    // Numbers with the unit behind them: " (kg)", " (kg/day)", " (g/day)", " (Mcal/kg)". An energy
+    // density is divided by the pounds of a kilogram, not multiplied by the kilograms of a pound.
+    std::string WeightUnit() const;
     std::string Weight(ReportValue kilograms, std::string_view mask = {}) const;
     std::string WeightPerDay(ReportValue kilograms, std::string_view mask) const;
     std::string Protein(ReportValue grams) const;

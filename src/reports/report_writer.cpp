@@ -6,6 +6,7 @@ namespace tav {
 namespace {
 
 constexpr int kSpareLines = 5;
+constexpr int kLinesOfHeading = 3;  // with the empty ones around it
 
 }  // namespace
 
@@ -13,10 +14,10 @@ ReportWriter::ReportWriter(ReportSink& sink, const SimulationRecord& record, Rep
                            bool metric)
     : sink_(sink), record_(record), state_(state), units_(metric) {}
 
-void ReportWriter::StartComponent(int lines, std::string_view title, int linesBefore) {
+void ReportWriter::StartComponent(int lines, std::string_view title) {
     RestoreOrientation();
     KeepTogether(std::min(lines, LinesOnAPage()), {}, true);
-    Title(title, linesBefore);
+    Title(title);
 }
 
 void ReportWriter::RestoreOrientation() {
@@ -26,10 +27,10 @@ void ReportWriter::RestoreOrientation() {
     state_.OrientationRestorePending = false;
 }
 
-void ReportWriter::Title(std::string_view title, int linesBefore) {
+void ReportWriter::Title(std::string_view title) {
     sink_.FontBold = true;
     sink_.SetFontSize(state_.BodyFontSize + 4);
-    LineEnds(linesBefore);
+    LineEnds(1);
     sink_.Text(title);
     LineEnds(2);
     sink_.FontBold = false;
@@ -76,6 +77,21 @@ Twips ReportWriter::BodyWidth() const {
 
 void ReportWriter::Heading(std::string_view text, int lines) {
     KeepTogether(std::min(lines, LinesOnAPage()));
+    WriteHeading(text);
+}
+
+void ReportWriter::HeadingWith(std::string_view text, Twips height) {
+    KeepHeight(kLinesOfHeading * sink_.TextHeight("A") + height);
+    WriteHeading(text);
+}
+
+void ReportWriter::KeepHeight(Twips height) {
+    const Twips bottom = sink_.PageHeight() - sink_.MarginBottom;
+    const bool fitsOnAPage = height <= bottom - sink_.MarginTop;
+    if (fitsOnAPage && sink_.CurrentY() > bottom - height) sink_.NewPage();
+}
+
+void ReportWriter::WriteHeading(std::string_view text) {
     LineEnds(1);
     sink_.FontBold = true;
     sink_.FontUnderline = true;

@@ -41,16 +41,19 @@ class ReportWriter {
     const ReportUnits& Units() const { return units_; }
 
     // Begins a component: returns to the saved orientation where that is pending, sees to it that
-    // so many lines stand together as far as a page holds them, and writes the title with so many
-    // empty lines before it.
-    void StartComponent(int lines, std::string_view title, int linesBefore = 1);
+    // so many lines stand together as far as a page holds them, and writes the title with an empty
+    // line before it.
+    void StartComponent(int lines, std::string_view title);
     void RestoreOrientation();
-    void Title(std::string_view title, int linesBefore);
+    void Title(std::string_view title);
 
     // Starts a new page unless that many lines and five more fit on this one. Before that, makes
     // the font smaller until the strings fit beside each other on the page. With spacing, three
     // empty lines divide what comes from what stands above it on the page.
     void KeepTogether(int lines, const std::vector<std::string>& row = {}, bool spacing = false);
+
+    // Starts a new page where what is so high does not fit on this one, but on one of its own.
+    void KeepHeight(Twips height);
 
     // The most lines that KeepTogether finds room for at the top of a page: with more it would
     // leave an empty one.
@@ -63,6 +66,8 @@ class ReportWriter {
     // A section heading, bold and underlined; one within a section, bold. lines are kept together
     // with it.
     void Heading(std::string_view text, int lines = 3);
+    // A section heading with what stands below it and is so high.
+    void HeadingWith(std::string_view text, Twips height);
     void Subheading(std::string_view text);
 
     // label and value in a line.
@@ -71,6 +76,7 @@ class ReportWriter {
 
   private:
     void FitFont(const std::vector<std::string>& row);
+    void WriteHeading(std::string_view text);
 
     ReportSink& sink_;
     const SimulationRecord& record_;

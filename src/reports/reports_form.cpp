@@ -121,13 +121,12 @@ void ReportsForm::cmdPrintPreview_Click() { MakeDocument(true, state_.SavedOrien
 void ReportsForm::cmdPrint_Click() { MakeDocument(false, kPortrait); }
 
 // An orientation that the user chooses is the one from which the next document starts. A document
-// on show is made anew with it, and only shown.
+// on show is made anew with it, and goes where the last one went.
 void ReportsForm::cmdPrinterSetup_Click() {
     const int page = printer_.PreviewPage();
     printer_.Orientation = state_.SavedOrientation != kPortrait ? kLandscape : kPortrait;
     printer_.PrintDialog();
     if (vp.Visible) {
-        printer_.Preview = true;
         Assemble();
         printer_.SetPreviewPage(page);
     }

@@ -10,7 +10,7 @@ constexpr double kNotPossible = 1000000;
 void WriteScores(ReportWriter& w) {
     const SimulationRecord& r = w.Record();
     const ReportUnits& units = w.Units();
-    const std::string unit = "(" + units.Mass() + ")";
+    const std::string unit = units.WeightUnit();
     ReportGrid grid(w, std::vector(6, ColumnAlign::Decimal), kFullGrid);
     grid.SetHeadingRows(1);
     grid.Row({"CS", "Weight Factor", "EBW " + unit, "Fat " + unit, "Protein " + unit,

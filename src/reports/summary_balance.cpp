@@ -39,14 +39,14 @@ std::string EnergyCell(const R& r, const Stage& stage) {
 
 void AddMinerals(const ReportWriter& w, ReportGrid::Cells& cells, Single MineralRow::*field) {
     for (const std::size_t row : kMinerals)
-        cells.push_back(w.Units().GramsNumber(w.Record().MineralRows[row].*field));
+        cells.push_back(w.Units().GramsInSteps(w.Record().MineralRows[row].*field));
 }
 
 void AddStages(const ReportWriter& w, ReportGrid& grid) {
     const R& r = w.Record();
     for (const Stage& stage : kStages) {
         ReportGrid::Cells cells = {stage.Label, EnergyCell(r, stage),
-                                   w.Units().GramsNumber(r.*stage.MP)};
+                                   w.Units().GramsInSteps(r.*stage.MP)};
         AddMinerals(w, cells, stage.Mineral);
         grid.Row(std::move(cells));
     }
@@ -63,7 +63,7 @@ void AddTotals(const ReportWriter& w, ReportGrid& grid) {
 
     const auto add = [&](const char* label, Number energy, Number protein,
                          Single MineralRow::*mineral) {
-        ReportGrid::Cells cells = {label, Plain(energy, "0.0"), w.Units().GramsNumber(protein)};
+        ReportGrid::Cells cells = {label, Plain(energy, "0.0"), w.Units().GramsInSteps(protein)};
         AddMinerals(w, cells, mineral);
         grid.Row(std::move(cells));
     };

@@ -49,7 +49,9 @@ void SetTargets(const ReportWriter& w, ReportGrid& grid) {
     const SimulationRecord& r = w.Record();
     const ReportUnits& units = w.Units();
     grid.Set(3, kTarget,
-             (OnMEBasis(r) ? "ME :  " : "NEl :  ") + units.EnergyDensity(r.EnergyDensityRequired));
+             (OnMEBasis(r) ? "ME :  " : "NEl :  ") +
+                 units.DensityNumber(r.EnergyDensityRequired, "0.00") +
+                 std::string(units.Choose(" (Mcal/kg)", " (Mcal/lbs)")));
     const auto grams = [&](int row, const char* label, Single value) {
         const std::string number =
             units.Metric() ? Plain(value, "0", " (g/kg)")

@@ -69,7 +69,7 @@ void SetProteinSupply(const ReportWriter& w, ReportGrid& grid) {
     const SimulationRecord& r = w.Record();
     const std::string unit(w.Units().Choose(" (g/d)", " (lbs/d)"));
     const auto grams = [&](int row, const char* label, Single value) {
-        grid.Set(row, kProtein, label + w.Units().GramsNumber(value) + unit);
+        grid.Set(row, kProtein, label + w.Units().GramsInSteps(value) + unit);
     };
     grams(3, "RDP Required :  ", r.RDPRequired);
     grams(4, "RDP Supplied :  ", r.RDPSupplied);

@@ -13,7 +13,7 @@ bool IsLactating(const SimulationRecord& r) { return r.AnimalType == kLactatingC
 std::string DesiredGain(const ReportWriter& w) {
     const SimulationRecord& r = w.Record();
     if (r.UseTargetADG) return "Using Model Computed Target ADG";
-    return w.Units().GramsNumber(r.DesiredADG, w.Units().Choose("0", "0.0000")) + " " +
+    return w.Units().GramsInSteps(r.DesiredADG, w.Units().Choose("0", "0.0000")) + " " +
            std::string(w.Units().Choose("g/day", "lbs/day"));
 }
 
@@ -69,7 +69,7 @@ void WriteRation(ReportWriter& w) {
 }  // namespace
 
 void WriteSummaryReport(ReportWriter& w) {
-    w.StartComponent(24, "Summary Report", 0);
+    w.StartComponent(24, "Summary Report");
     WriteAnimalInputs(w);
     w.Heading("Diet Nutrient Balances", 14);
     WriteNutrientBalances(w);

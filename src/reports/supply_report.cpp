@@ -1,14 +1,11 @@
 #include "reports/components.h"
 #include "reports/report_grid.h"
 
-#include <algorithm>
-
 namespace tav {
 namespace {
 
-// Headings, spacing and factors below the feeds of the second table.
-constexpr int kLinesOfDensities = 8;
-constexpr float kTableFontSize = 10;
+constexpr int kLinesOfSpace = 3;  // above and below the second table
+constexpr int kLinesOfFactors = 4;
 
 // Turns the page on its side, without an empty upright page before it.
 void StartLandscape(ReportWriter& w) {
@@ -36,11 +33,11 @@ ReportGrid::Cells FeedRow(const ReportWriter& w, std::size_t i) {
     const Single intake = Entry(r.FeedDMI, i);
     return {feed.Name,
             units.WeightNumber(intake, "0.0"),
-            units.GramsNumber(Entry(r.FeedTDNg, i)),
+            units.GramsInSteps(Entry(r.FeedTDNg, i)),
             Plain(feed.ME * intake, "0.0"),
             Plain(feed.NEl * intake, "0.0"),
             Plain(feed.NEg * intake, "0.0"),
-            units.GramsNumber(Entry(r.FeedCPg, i)),
+            units.GramsInSteps(Entry(r.FeedCPg, i)),
             ProteinOf(units, Entry(r.FeedRUP, i), "0.000"),
             ProteinOf(units, Entry(r.FeedRDP, i), "0.000"),
             units.WeightNumber(Entry(r.FeedNDF, i), "0.0"),
@@ -54,15 +51,15 @@ ReportGrid::Cells TotalsRow(const ReportWriter& w) {
     const std::string_view mask = units.Choose("0", "0.0");
     return {"Totals :   ",
             units.WeightNumber(r.TotalFeedDMI, "0.0"),
-            units.GramsNumber(r.TotalTDN),
+            units.GramsInSteps(r.TotalTDN),
             Plain(r.TotalME, "0.0"),
             Plain(r.TotalNEl, "0.0"),
             Plain(r.TotalNEg, "0.0"),
-            units.GramsNumber(r.TotalCP, mask),
+            units.GramsInSteps(r.TotalCP, mask),
             ProteinOf(units, r.TotalRUP, mask),
             ProteinOf(units, r.TotalRDP, mask),
             units.WeightNumber(r.TotalNDF, "0.0"),
-            units.GramsNumber(r.MCP, mask)};
+            units.GramsInSteps(r.MCP, mask)};
 }
 
 void WriteFeeds(ReportWriter& w) {
@@ -78,6 +75,7 @@ void WriteFeeds(ReportWriter& w) {
     for (std::size_t i = 0; i < w.Record().NumFeeds; ++i)
         grid.Row(FeedRow(w, i));
     grid.Row(TotalsRow(w));
+    grid.FillWidth();
     grid.KeepWhole();
     grid.Write();
 }
@@ -97,6 +95,8 @@ void WriteDensities(ReportWriter& w) {
                   units.DensityNumber(feed.NEl, "0.00"), units.DensityNumber(feed.NEg, "0.00"),
                   Plain(Entry(r.FeedKp, i), "0.00")});
     }
+    const Twips below = (kLinesOfSpace + kLinesOfFactors) * w.Sink().TextHeight("A");
+    w.KeepHeight(grid.Height() + below);
     grid.KeepWhole();
     grid.Write();
 }
@@ -104,7 +104,7 @@ void WriteDensities(ReportWriter& w) {
 void WriteFactors(ReportWriter& w) {
     const SimulationRecord& r = w.Record();
     const auto percent = [](Number value) { return Plain(value, {}, "%"); };
-    w.KeepTogether(4);
+    w.KeepHeight(kLinesOfFactors * w.Sink().TextHeight("A"));
     w.Line("Increment over Maintenance :  ", Plain(r.IntakeMultiple, "0.0", " X"));
     w.Line("Energy/Protein Discount Factor :  ", percent((1 - r.DiscountFactor) * 100));
     w.Line("Undiscounted TDN in Diet :  ", percent(r.UndiscountedTDNFraction * 100));
@@ -117,16 +117,10 @@ void WriteEnergyAndProteinSupply(ReportWriter& w) {
     w.RestoreOrientation();
     StartLandscape(w);
     w.StartComponent(10, "Energy and Protein Supply");
-    const auto inTableFont = [&](void (*write)(ReportWriter&)) {
-        w.Sink().SetFontSize(kTableFontSize);
-        write(w);
-        w.Sink().SetFontSize(w.State().BodyFontSize);
-    };
-    inTableFont(WriteFeeds);
-    w.LineEnds(3);
-    w.KeepTogether(std::min(w.LinesOnAPage(), w.Record().NumFeeds + kLinesOfDensities));
-    inTableFont(WriteDensities);
-    w.LineEnds(3);
+    WriteFeeds(w);
+    w.LineEnds(kLinesOfSpace);
+    WriteDensities(w);
+    w.LineEnds(kLinesOfSpace);
     WriteFactors(w);
     if (w.State().SavedOrientation != kLandscape) w.State().OrientationRestorePending = true;
 }

@@ -9,16 +9,21 @@
 namespace tav {
 namespace {
 
-constexpr Twips kBesideCell = 80;    // within a grid, on each side
-constexpr Twips kBehindCell = 240;   // between the columns of a table without one
-constexpr Twips kAboveLine = 30;     // within a grid, also below
-constexpr double kEmptyShare = 0.4;  // of a line, what an empty row is high
+constexpr Twips kBesideCell = 80;     // within a grid, on each side
+constexpr Twips kBehindCell = 240;    // between the columns of a table without one
+constexpr Twips kAboveLine = 30;      // within a grid, also below
+constexpr double kEmptyShare = 0.35;  // of a line, what an empty row is high
 constexpr Twips kTolerance = 0.01;
 constexpr Twips kLeastWidth = 400;  // of a column that takes what is left
 
 std::size_t At(int column) { return static_cast<std::size_t>(column - 1); }
 
 }  // namespace
+
+Twips TableRowHeight(int lines, float size, int border) {
+    const Twips room = border == kFullGrid ? 2 * kAboveLine : 0;
+    return (lines == 0 ? kEmptyShare : lines) * LineHeightOf(size) + room;
+}
 
 Twips CellPadding(int border) { return border == kFullGrid ? 2 * kBesideCell : kBehindCell; }
 
@@ -112,7 +117,7 @@ Twips TableLayout::StartOf(ColumnAlign align, int column, const LaidLine& line) 
 }
 
 Twips TableLayout::RowHeight(const TableRow& row, int lines) const {
-    return (row.IsEmpty ? kEmptyShare : lines) * LineHeight() + 2 * RoomAbove();
+    return TableRowHeight(row.IsEmpty ? 0 : lines, style_.Size, hasBorder_ ? kFullGrid : kNoBorder);
 }
 
 Twips TableLayout::RoomAbove() const { return hasBorder_ ? kAboveLine : 0; }

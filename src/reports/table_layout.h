@@ -54,6 +54,9 @@ class TableLayout {
     std::vector<TableRow> rows_;
 };
 
+// The height of a row of that many lines, or of an empty one where there are none.
+Twips TableRowHeight(int lines, float size, int border);
+
 // The room beside the text of a cell, on both sides together.
 Twips CellPadding(int border);
 

@@ -49,6 +49,7 @@ void WriteTargetWeights(ReportWriter& w) {
     add("2nd Calving", r.Age2ndCalving, r.Weight2ndCalving);
     add("3rd Calving", r.Age3rdCalving, r.Weight3rdCalving);
     grid.KeepWhole();
+    w.HeadingWith("Calculation of Target Weights and Ages", grid.Height());
     grid.Write();
     w.LineEnds(1);
     w.Line(
@@ -56,13 +57,14 @@ void WriteTargetWeights(ReportWriter& w) {
         "for first pregnancy and first, second and third calving, respectively.");
 }
 
-// A stage applies to an animal that has it before it or is in it.
+// A stage applies to an animal that has it before it or is in it. Its gain is a daily one, although
+// the heading has the unit of weight alone.
 void WriteTargetGains(ReportWriter& w) {
     const SimulationRecord& r = w.Record();
     using enum ColumnAlign;
     ReportGrid grid(w, {Left, Decimal}, kFullGrid);
     grid.SetHeadingRows(1);
-    grid.Row({"Animal Stage", "Average Daily Gain (" + w.Units().MassPerDay() + ")"});
+    grid.Row({"Animal Stage", "Average Daily Gain (" + w.Units().Mass() + ")"});
     const auto add = [&](const char* stage, bool applies, Single gain) {
         grid.Row({stage, applies ? w.Units().WeightNumber(gain, "0.00") : "N/A"});
     };
@@ -73,6 +75,7 @@ void WriteTargetGains(ReportWriter& w) {
     add("1st Calving To 2nd Calving", calvesAgain && r.Age < r.Age2ndCalving, r.ADG1stTo2ndCalving);
     add("2nd Calving To 3rd Calving", calvesAgain && r.Age < r.Age3rdCalving, r.ADG2ndTo3rdCalving);
     grid.KeepWhole();
+    w.HeadingWith("Calculation of Target Daily Gain", grid.Height());
     grid.Write();
 }
 
@@ -96,9 +99,7 @@ void WriteTargetWeightsAndADG(ReportWriter& w) {
     w.StartComponent(38, "Target Weights and Average Daily Gain");
     w.Heading("Major Inputs Used to Compute Target Weights");
     WriteInputs(w);
-    w.Heading("Calculation of Target Weights and Ages");
     WriteTargetWeights(w);
-    w.Heading("Calculation of Target Daily Gain");
     WriteTargetGains(w);
     WriteNotes(w);
 }

@@ -81,7 +81,7 @@ TEST_F(GeneratorTest, FieldsStandForDatesAndNames) {
         {"Long Time", "3:27:05 PM"},
         {"Short Time", "03:27 PM"},
         {"24 Hr Time", "15:27"},
-        {"24 Hr Time (15:27)", "15:27"},
+        {"24 Hr Time (15:27)", "24 Hr Time (15:27)"},
         {"My farm", "My farm"},
         {"", ""},
     };
@@ -97,6 +97,16 @@ TEST_F(GeneratorTest, MidnightAndNoonAreTwelve) {
     EXPECT_EQ(DateText(day + 12h, DateForm::MediumTime), "12:00 PM");
     EXPECT_EQ(DateText(day, DateForm::MediumDate), "05-Jan-26");
     EXPECT_EQ(DateText(day, DateForm::LongDate), "Monday, January 5, 2026");
+}
+
+TEST_F(GeneratorTest, DatesAreThoseOfTheUsersLocaleWhereItIsKnown) {
+    SetDateWriter([](DateTime, DateForm form) {
+        return std::string(form == DateForm::MediumDate ? "22 nov. 2026" : "15.27");
+    });
+    EXPECT_EQ(FieldText("Short Date", platform.Now()), "22 nov. 2026");
+    EXPECT_EQ(FieldText("24 Hr Time", platform.Now()), "15.27");
+    SetDateWriter({});
+    EXPECT_EQ(FieldText("24 Hr Time", platform.Now()), "15:27");
 }
 
 TEST_F(GeneratorTest, AFileNameLosesItsLastFourCharactersForAnExtensionAnywhere) {
@@ -172,6 +182,46 @@ TEST_F(GeneratorTest, ShortReportsShareAPageAndNoPageIsEmpty) {
             for (const ReportPage& page : document->Pages)
                 EXPECT_GT(page.Runs.size(), 4u) << name;
         }
+    }
+}
+
+// The lowest text of a page above its footer.
+const TextRun& LastRun(const ReportPage& page) {
+    const auto last = std::max_element(page.Runs.begin(), page.Runs.end(),
+                                       [](const TextRun& a, const TextRun& b) {
+                                           const auto place = [](const TextRun& run) {
+                                               return run.Style.Size == 8 ? 0 : run.Baseline;
+                                           };
+                                           return place(a) < place(b);
+                                       });
+    return *last;
+}
+
+TEST_F(GeneratorTest, NoHeadingStandsAloneAtTheFoot) {
+    for (const char* const simulation : {"Heifer in Winter", "Dry Cow", "Young Calf"}) {
+        Load(simulation);
+        for (const int orientation : {kPortrait, kLandscape}) {
+            std::vector<std::string> wanted = ReportComponentNames(TheSimulation().AnimalType);
+            for (; !wanted.empty(); wanted.erase(wanted.begin())) {
+                const auto document = Make(wanted, orientation);
+                for (const ReportPage& page : document->Pages)
+                    EXPECT_FALSE(LastRun(page).Style.Bold) << simulation << LastRun(page).Text;
+            }
+        }
+    }
+}
+
+TEST_F(GeneratorTest, TheThreeMineralTablesAreAlikeAndOnOnePage) {
+    for (const char* const simulation : {"Lactating Cow", "Dry Cow", "Young Calf"}) {
+        Load(simulation);
+        const auto document = Make({"Mineral Requirements"});
+        ASSERT_EQ(document->PageCount(), 1);
+        std::vector<Twips> rightEdges;
+        for (const Rule& rule : document->Pages[0].Rules) {
+            if (rule.Y1 == rule.Y2 && rule.Thickness == 8) rightEdges.push_back(rule.X2);
+        }
+        EXPECT_NEAR(*std::min_element(rightEdges.begin(), rightEdges.end()),
+                    *std::max_element(rightEdges.begin(), rightEdges.end()), 0.01);
     }
 }
 

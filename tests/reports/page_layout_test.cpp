@@ -256,6 +256,25 @@ TEST_F(PageLayoutTest, ARowHigherThanAPageLosesNothing) {
     EXPECT_GT(PageOf(document, "name299"), 3);
 }
 
+TEST_F(PageLayoutTest, HeadingsStandWithTheBeginningOfARowHigherThanAPage) {
+    AddTable(2, 1, kFullGrid);
+    std::string text = "begins";
+    for (int i = 0; i < 300; ++i)
+        text += " name" + std::to_string(i);
+    layout.TableCell().HeadingRows = 1;
+    layout.TableCell().SetText(2, 1, text);
+    layout.TableCell().SetWidth(1, 1300);
+    layout.EndTable();
+    const ReportDocument& document = Close();
+    EXPECT_NE(RunOf(document.Pages[0], "begins"), nullptr);
+    EXPECT_GT(PageOf(document, "name299"), 3);
+    for (const ReportPage& page : document.Pages) {
+        EXPECT_NE(RunOf(page, "Row 1"), nullptr);
+        for (const TextRun& run : page.Runs)
+            EXPECT_LT(run.Baseline, page.Height - 720);
+    }
+}
+
 TEST_F(PageLayoutTest, NumbersOfAColumnStandUnderEachOther) {
     AddTable(4, 1, kFullGrid);
     const std::vector<std::string> cells = {"8.25", "-1234.5", "0.35 ppm", "N/A"};

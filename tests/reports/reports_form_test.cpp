@@ -61,7 +61,7 @@ TEST_F(ReportsFormTest, AFaultOfAReportTakesTheHourglassAway) {
     EXPECT_TRUE(printed.empty());
 }
 
-TEST_F(ReportsFormTest, OnlyThePrintGoesToThePrinter) {
+TEST_F(ReportsFormTest, APrintGoesToThePrinter) {
     form.lstReportComponents.SetSelected(3, true);
     form.cmdPrintPreview.Click();
     EXPECT_TRUE(printed.empty());
@@ -70,10 +70,14 @@ TEST_F(ReportsFormTest, OnlyThePrintGoesToThePrinter) {
     ASSERT_EQ(printed.size(), 1U);
     EXPECT_NE(form.vp.Document(), printed[0]);
     EXPECT_EQ(printed[0]->Title, "TAV Dairy Cattle Program - Report");
-    // A new set-up of the printer renews what is on the screen, and prints nothing.
+    // With the pane on show a new set-up of the printer makes the document anew, and it goes where
+    // the last one went.
     form.cmdPrinterSetup.Click();
-    EXPECT_EQ(printed.size(), 1U);
-    EXPECT_FALSE(LastReport().Printed);
+    EXPECT_EQ(printed.size(), 2U);
+    form.cmdPrintPreview.Click();
+    form.cmdPrinterSetup.Click();
+    EXPECT_EQ(printed.size(), 2U);
+    EXPECT_EQ(form.vp.Document(), LastReport().Document);
 }
 
 TEST_F(ReportsFormTest, ThePageOnShowStaysOnShow) {
