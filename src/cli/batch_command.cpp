@@ -82,11 +82,20 @@ class ConsoleWatcher : public BatchWatcher {
     Progress progress_;
 };
 
+std::string RowsText(const BatchState& state) {
+    return ". Rows written: " + std::to_string(state.Rows);
+}
+
+std::string ListText(const RuntimeError& error, const std::string& list) {
+    return list + ": the list can't be read: error " + std::to_string(error.Number) + ", " +
+           error.Description;
+}
+
 // What has stopped a batch: an input of the file at hand, or the output.
 std::string StopText(const RuntimeError& error, const BatchState& state,
                      const std::string& output) {
     const std::string number = "error " + std::to_string(error.Number) + ", " + error.Description;
-    const std::string rows = ". Rows written: " + std::to_string(state.Rows);
+    const std::string rows = RowsText(state);
     switch (error.Number) {
         case kSubscriptOutOfRange:
             return state.File + ": the batch was stopped by " + number +
@@ -112,6 +121,9 @@ ExitStatus Run(const BatchOptions& options, BatchFiles& files, std::int64_t tota
     try {
         batch.Run(options.Output);
         watcher.Finish(batch.State());
+    } catch (const ListFault& error) {
+        watcher.Say(ListText(error, options.List) + RowsText(batch.State()));
+        watcher.Status = kSomeFailed;
     } catch (const RuntimeError& error) {
         watcher.Say(StopText(error, batch.State(), options.Output));
         watcher.Status = kSomeFailed;
@@ -134,8 +146,7 @@ ExitStatus RunBatch(const BatchOptions& options) {
         BatchFiles files(options.Files, options.List);
         return Run(options, files, survey.Count);
     } catch (const RuntimeError& error) {
-        WriteMessage(options.List + ": the list can't be read: error " +
-                     std::to_string(error.Number) + ", " + error.Description);
+        WriteMessage(ListText(error, options.List));
         return kWrongCommandLine;
     }
 }

@@ -39,7 +39,7 @@ std::optional<std::string> BatchFiles::NextLine() {
         }
     } catch (const RuntimeError& error) {
         if (error.Number == kInputPastEnd) return std::nullopt;
-        throw;
+        throw ListFault(error);
     }
 }
 

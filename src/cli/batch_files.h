@@ -10,6 +10,12 @@
 
 namespace tav {
 
+// A list file that can't be read on, in the middle of a batch.
+class ListFault : public RuntimeError {
+  public:
+    explicit ListFault(const RuntimeError& error) : RuntimeError(error) {}
+};
+
 // Paths one after the other: those given, or the lines of a list file, of which no more than one is
 // kept. Empty lines of a list are passed over, and so is a byte order mark.
 class BatchFiles {
@@ -17,7 +23,7 @@ class BatchFiles {
     // list is the path of a list file; empty: the files given. Raises what the file system raises.
     BatchFiles(std::vector<std::string> files, const std::string& list);
 
-    // The next path, nothing behind the last one.
+    // The next path, nothing behind the last one. Throws ListFault.
     std::optional<std::string> Next();
 
   private:

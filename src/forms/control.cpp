@@ -73,10 +73,12 @@ std::string Control::FullName() const {
 }
 
 void Control::Move(Number left, Number top, Number width, Number height) {
-    Left = left;
-    Top = top;
-    Width = width;
-    Height = height;
+    // All four are converted before the first is set: what can't be held moves nothing.
+    const Single newLeft = left, newTop = top, newWidth = width, newHeight = height;
+    Left = newLeft;
+    Top = newTop;
+    Width = newWidth;
+    Height = newHeight;
 }
 
 bool Control::IsLive() const { return owner_->IsLoaded() && !TheProgram().Ended; }

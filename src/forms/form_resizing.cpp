@@ -44,26 +44,33 @@ Number SteppedFontSize(Number size, bool onTerms) {
     return size > 14 ? Number(12) : size;
 }
 
+// A combo box keeps its height, a picture box its place.
 void ScalePlace(Control& control, Single scaleX, Single scaleY) {
-    const auto move = [&](Number height) {
-        control.Move(control.Left * scaleX, control.Top * scaleY, control.Width * scaleX, height);
-    };
     switch (control.Kind()) {
         case ControlKind::PictureBox: break;
-        case ControlKind::ComboBox: move(control.Height); break;
-        default: move(control.Height * scaleY); break;
+        case ControlKind::ComboBox:
+            Try([&] { control.Left = control.Left * scaleX; });
+            Try([&] { control.Top = control.Top * scaleY; });
+            Try([&] { control.Width = control.Width * scaleX; });
+            break;
+        default:
+            Try([&] {
+                control.Move(control.Left * scaleX, control.Top * scaleY, control.Width * scaleX,
+                             control.Height * scaleY);
+            });
+            break;
     }
 }
 
 void ScaleFont(Control& control, Number average) {
     const bool onTerms = control.Owner().Name() == "frmSplash";
-    control.FontSize = control.FontSize * average;
+    Try([&] { control.FontSize = control.FontSize * average; });
     control.FontSize = SteppedFontSize(control.FontSize, onTerms);
 }
 
 void ScaleControl(Control& control, Single scaleX, Single scaleY, Number average) {
-    if (control.HasPlace()) Try([&] { ScalePlace(control, scaleX, scaleY); });
-    if (control.HasFont()) Try([&] { ScaleFont(control, average); });
+    if (control.HasPlace()) ScalePlace(control, scaleX, scaleY);
+    if (control.HasFont()) ScaleFont(control, average);
     if (control.Kind() == ControlKind::NumericTextBox && control.Height > kMostNumericHeight) {
         control.Height = kMostNumericHeight;
     }

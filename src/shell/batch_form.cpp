@@ -20,7 +20,13 @@ constexpr std::string_view kWelcome =
 
 // The loader of the batch has a message of its own only where it tells an error's number.
 class MessageWatcher : public BatchWatcher {
-    void LoadFailed(const std::string& /*file*/, const FileFault& fault) override {
+    // The screen that makes room for the new simulation stores what it shows, and may compute, so
+    // that the record must hold then what could be read of the file.
+    void LoadFailed(const std::string& file, const FileFault& fault) override {
+        try {
+            ReadSimulation(file, TheSimulation());
+        } catch (const FileFault&) {  // the one to be told
+        }
         ThePlatform().ShowMessage(LoadFailureMessage(fault, "Cannot Load Data File."));
     }
 };

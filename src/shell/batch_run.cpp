@@ -15,9 +15,9 @@ BatchRun::BatchRun(NextFile files, BatchWatcher& watcher, int readers)
 // before.
 void BatchRun::Compute(ReadFile& file) {
     state_.File = file.File;
-    TakeSimulation(file.Record, TheSimulation());
     try {
         if (file.Failure) std::rethrow_exception(file.Failure);
+        TakeSimulation(file.Record, TheSimulation());
     } catch (const FileFault& fault) {
         watcher_.LoadFailed(file.File, fault);
         NewSimulation();

@@ -22,7 +22,8 @@ class BatchWatcher {
   public:
     virtual ~BatchWatcher() = default;
 
-    // A file could not be loaded. A new simulation takes its place when this returns.
+    // A file could not be loaded. The record still holds the file before; a new simulation takes
+    // its place when this returns.
     virtual void LoadFailed(const std::string& file, const FileFault& fault) = 0;
 
     // Asked after each file; false ends the batch there, as if there were no more files.

@@ -3,12 +3,11 @@
 #include "core/simulation_file.h"
 
 #include <algorithm>
+#include <system_error>
 
 namespace tav {
 
 void Read(ReadFile& file) {
-    // A slot is used again and again. Without feeds it has none left from the file before.
-    file.Record.NumFeeds = 0;
     file.Failure = nullptr;
     try {
         ReadSimulation(file.File, file.Record);
@@ -26,8 +25,11 @@ int ReadAhead::UsefulReaders() {
 }
 
 ReadAhead::ReadAhead(NextFile files, int readers) : files_(std::move(files)) {
-    for (int i = 0; i < readers; ++i)
-        readers_.emplace_back([this] { RunReader(); });
+    try {
+        for (int i = 0; i < readers; ++i)
+            readers_.emplace_back([this] { RunReader(); });
+    } catch (const std::system_error&) {  // those that have started do, and so does none
+    }
 }
 
 ReadAhead::~ReadAhead() {

@@ -21,7 +21,7 @@ using NextFile = std::function<std::optional<std::string>()>;
 // A file that has been read into a record of its own.
 struct ReadFile {
     std::string File;
-    SimulationRecord Record;     // as far as reading got
+    SimulationRecord Record;     // of no use after a failure
     std::exception_ptr Failure;  // a FileFault, or that memory ran out; empty if all is well
 };
 
@@ -31,7 +31,8 @@ void Read(ReadFile& file);
 class ReadAhead {
   public:
     // files is asked by one thread at a time, and not before the first Next when there are no
-    // readers. What it throws comes out of Next, behind the files before.
+    // readers. What it throws comes out of Next, behind the files before. Where the system has no
+    // more threads to give, there are fewer readers.
     ReadAhead(NextFile files, int readers);
     ReadAhead(const ReadAhead&) = delete;
     ReadAhead& operator=(const ReadAhead&) = delete;

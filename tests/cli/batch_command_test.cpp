@@ -91,6 +91,16 @@ TEST_F(BatchCommand, AnErrorStopsItAndNamesTheFile) {
               std::string::npos);
 }
 
+TEST_F(BatchCommand, AListThatBreaksOffIsNamedAndNotTheOutput) {
+    EXPECT_EQ(Run("{ echo 'cow 1.tav'; head -c 70000000 /dev/zero; } | "
+                  "$TAV batch --output a.csv --list /dev/stdin"),
+              1);
+    EXPECT_NE(Messages.find("tav: /dev/stdin: the list can't be read: error 14, "),
+              std::string::npos);
+    EXPECT_NE(Messages.find("Rows written: 1"), std::string::npos);
+    EXPECT_EQ(Lines("a.csv"), 5U);
+}
+
 TEST_F(BatchCommand, WrongCommandLinesAreRefusedBeforeAnythingIsWritten) {
     const std::string cow = Contents("cow 1.tav");
     EXPECT_EQ(Run("$TAV batch 'cow 1.tav'"), 2);

@@ -125,9 +125,13 @@ TEST_F(FormResizing, FontsStepDown) {
 TEST_F(FormResizing, WhatCannotBeSetIsPassedOver) {
     auto& screen = Open<ScreenUnderTest>("frmInputs");
     screen.txtShown.Width = 3e38;
+    screen.cboInside.Left = 3e38;
+    screen.txtAge.FontSize = 3e38;
     ScaleControls(2, 2, screen);
-    EXPECT_EQ(screen.txtShown.Width.Value(), 3e38F);
-    ExpectPlace(screen.cboInside, 200, 800, 2000, 315);
+    ExpectPlace(screen.txtShown, 300, 100, 3e38F, 300);  // moved as a whole or not at all
+    ExpectPlace(screen.cboInside, 3e38F, 800, 2000, 315);
+    EXPECT_EQ(screen.txtAge.FontSize, 12);
+    ExpectPlace(screen.fraParked, 1200 - 75000, 400, 2400, 4000);
 }
 
 }  // namespace
