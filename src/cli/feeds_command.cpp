@@ -48,11 +48,14 @@ ExitStatus WithLibrary(const FeedsOptions& options, LibraryUse use,
 }
 
 // As it is shown on a line: a control character would do something to the terminal.
-std::string Shown(const Recordset& row, std::string_view column) {
-    std::string text = DisplayText(ShownText(row.Value(column)));
+std::string Shown(std::string_view bytes) {
+    std::string text = DisplayText(bytes);
     std::replace_if(
         text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; }, '?');
     return text;
+}
+std::string Shown(const Recordset& row, std::string_view column) {
+    return Shown(ShownText(row.Value(column)));
 }
 
 ExitStatus List(FeedLibrary& library) {
@@ -65,11 +68,24 @@ ExitStatus List(FeedLibrary& library) {
     return kAllWell;
 }
 
+// The feed of exactly that name, or else the first one that the list shows so: its name may hold
+// bytes of another code page, or signs that can't be typed.
+bool FindTyped(FeedLibrary& library, const std::string& name) {
+    Recordset& row = library.Table();
+    if (row.AtEnd()) return false;
+    if (library.Find(name)) return true;
+    const std::string shown = Shown(name);
+    for (row.MoveFirst(); !row.AtEnd(); row.MoveNext()) {
+        if (Shown(row, kFeedNameColumn) == shown) return true;
+    }
+    return false;
+}
+
 // The columns of the feed's kind, with a dash for a Null.
 ExitStatus ShowFeed(FeedLibrary& library, const std::string& name) {
     Recordset& row = library.Table();
-    if (row.AtEnd() || !library.Find(name)) {
-        WriteMessage("the library has no feed \"" + name + "\". See: tav feeds list");
+    if (!FindTyped(library, name)) {
+        WriteMessage("the library has no feed \"" + Shown(name) + "\". See: tav feeds list");
         return kSomeFailed;
     }
     const bool calf = IsCalfCategory(ShownText(row.Value(kCategoryColumn)));
@@ -108,7 +124,7 @@ ExitStatus ExportFeeds(FeedLibrary& library, const FeedsOptions& options) {
 void Report(const FeedsOptions& options, const ImportResult& result, const ColumnList& columns) {
     for (const LibraryRow& row : result.PassedOver) {
         WriteMessage(options.File + ": line " + std::to_string(row.Line) + ": \"" +
-                     NameOf(row, columns) + "\" is a default feed and is left as it is.");
+                     Shown(NameOf(row, columns)) + "\" is a default feed and is left as it is.");
     }
     WriteOutput(std::to_string(result.Added) + " added, " + std::to_string(result.Replaced) +
                 " replaced, " + std::to_string(result.Unchanged) + " unchanged, " +
@@ -119,7 +135,7 @@ std::string FaultText(const CsvFault& fault) {
     std::string text;
     if (fault.Line > 0) text += "line " + std::to_string(fault.Line);
     if (fault.Column > 0) text += ", column " + std::to_string(fault.Column);
-    return text + (text.empty() ? "" : ": ") + fault.what() + ". Nothing was imported.";
+    return text + (text.empty() ? "" : ": ") + Shown(fault.what()) + ". Nothing was imported.";
 }
 
 ExitStatus ImportFile(const FeedsOptions& options) {

@@ -50,6 +50,30 @@ int ListOf(std::string_view category) {
     return std::min(static_cast<int>(found - kFeedCategories.begin()), kCalfList);
 }
 
+// Whether feeds of the ration have that name, each of which is told to the user; for the last feed
+// to be added the first is enough.
+bool IsInRation(const std::string& name, bool firstIsEnough) {
+    bool found = false;
+    for (int i = 1; i <= TheSimulation().NumFeeds; ++i) {
+        if (FeedAt(i).Name != name) continue;
+        ThePlatform().ShowMessage({"'" + name + "'  is already in the ration.",
+                                   "Feed Already Selected", MessageIcon::Critical});
+        found = true;
+        if (firstIsEnough) break;
+    }
+    return found;
+}
+
+// An empty feed at the end. A ration that can count no further keeps its length, and its last feed
+// is read over, with the quantity that it has. This is meant.
+FeedRecord& FeedToFill() {
+    try {
+        return AddFeed();
+    } catch (const RuntimeError&) {
+        return FeedAt(TheSimulation().NumFeeds);
+    }
+}
+
 }  // namespace
 
 AddFeedForm::AddFeedForm() : Form("frmAddFeed") {
@@ -185,9 +209,9 @@ void AddFeedForm::ShowSelectedFeedValues() {
     };
     fill(0, headers);
     for (int row = 1; row <= SelectedCount; ++row) {
-        if (FindLibraryFeed(SelectedNames[static_cast<std::size_t>(row) - 1])) {
-            fill(row, PickerCells(library_->Table()));
-        }
+        const bool found = FindLibraryFeed(SelectedNames[static_cast<std::size_t>(row) - 1]);
+        fill(row,
+             found ? PickerCells(library_->Table()) : std::vector<std::string>(headers.size()));
     }
     FitGrid();
 }
@@ -214,25 +238,20 @@ void AddFeedForm::cmdAddFeed_Click() {
         if (!AddSelectedFeed(name, &name == &SelectedNames.back())) return;
     }
     CloseLibrary();
-    TheForms().Get<FeedsForm>("frmFeeds").SetUpFeeds(1);
+    TheForms().Get<FeedsForm>("frmFeeds").SetUpFeeds(TheSimulation().NumFeeds > 0 ? 1 : 0);
     TheForms().Unload(Name());
 }
 
 // False when the last of the marked feeds is in the ration already: the picker stays open then,
-// with those before it added. Failures to read the library or to add are passed over.
+// with those before it added. A feed that can't be read is left out.
 bool AddFeedForm::AddSelectedFeed(const std::string& name, bool isLast) {
     try {
         if (!FindLibraryFeed(name)) return true;
-        const std::string feedName = ShownText(library_->Table().Value(kFeedNameColumn));
-        for (int i = 1; i <= TheSimulation().NumFeeds; ++i) {
-            if (FeedAt(i).Name != feedName) continue;
-            ThePlatform().ShowMessage({"'" + feedName + "'  is already in the ration.",
-                                       "Feed Already Selected", MessageIcon::Critical});
-            return !isLast;
-        }
-        ReadFeedRow(library_->Table(), AddFeed());
+        const std::string feedName = ToText(library_->Table().Value(kFeedNameColumn));
+        if (IsInRation(feedName, isLast)) return !isLast;
+        ReadFeedRow(library_->Table(), FeedToFill());
     } catch (const RuntimeError&) {
-        // The feed is left out.
+        // There is nothing of it to add.
     }
     return true;
 }

@@ -7,7 +7,7 @@ namespace tav {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::size_t kMostCells = 1000;
+constexpr int kMostCells = 1000;
 constexpr char kGuard = '\'';
 
 // Signs with which spreadsheets begin a formula, in the wide forms of East Asian ones as well.
@@ -76,8 +76,9 @@ bool CsvReader::ReadRow(std::vector<CsvCell>& row) {
     }
     if (rest_.empty()) return false;
     while (true) {
-        if (row.size() == kMostCells) throw CsvFault(line_, 0, "the row has too many cells");
-        row.push_back(ReadCell(static_cast<int>(row.size()) + 1));
+        const int column = static_cast<int>(row.size()) + 1;
+        if (column > kMostCells) throw CsvFault(line_, column, "the row has too many cells");
+        row.push_back(ReadCell(column));
         if (!rest_.starts_with(',')) break;
         rest_.remove_prefix(1);
     }

@@ -69,10 +69,11 @@ void CheckLimits(const Grid& grid, int row, Number value, bool& cancel) {
     }
 }
 
-// Compared as 32-bit floats, which is what the fields are: 0.1 and 0.2 do not exceed 0.3.
+// Compared by the digits of the decimal numbers: 0.1 and 0.2 do not exceed 0.3, 50.0000001 exceeds
+// 50. No cell holds more than a 32-bit float.
 bool Exceeds(Number value, const Grid& grid, int row) {
     if (value > std::numeric_limits<float>::max()) return true;
-    return Single(value) > Single(CellNumber(grid, row));
+    return TextToNumber(NumberText(value.Value())) > CellNumber(grid, row);
 }
 
 void CheckRelations(const Grid& grid, int row, Number value, bool& cancel) {
@@ -159,9 +160,9 @@ void BeforeFeedEdit(Grid& grid, int row, int col, bool& cancel) {
     RefuseComputedRows(grid, row, cancel);
 }
 
-void ValidateFeedEdit(const Grid& grid, int row, bool& cancel) {
-    // Rows that hold a text have no limits, so it is the present text that tells them apart.
-    if (IsNumeric(CellText(grid, row))) {
+void ValidateFeedEdit(const Grid& grid, int row, int col, bool& cancel) {
+    // Cells that hold a text have no limits, so it is the present text that tells them apart.
+    if (IsNumeric(grid.TextMatrix(row, col))) {
         if (!IsNumeric(grid.EditText)) {
             cancel = true;
             return;

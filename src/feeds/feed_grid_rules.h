@@ -12,7 +12,7 @@ void BeforeFeedEdit(Grid& grid, int row, int col, bool& cancel);
 
 // The edit is about to close with grid.EditText: limits of the row, then relations between rows. A
 // refusal does not end the checks, so that one entry may lead to two messages.
-void ValidateFeedEdit(const Grid& grid, int row, bool& cancel);
+void ValidateFeedEdit(const Grid& grid, int row, int col, bool& cancel);
 
 // The edit has closed: recomputes the rows that follow from the edited one.
 void AfterFeedEdit(Grid& grid, int row);

@@ -17,6 +17,16 @@ void SetLibraryEngine(LibraryEngine& engine) { current = &engine; }
 
 std::string LibraryPath() { return JoinPath(TheProgram().AppPath, kLibraryFile); }
 
+bool GoToFirst(Recordset& table) {
+    try {
+        table.MoveFirst();
+        return true;
+    } catch (const RuntimeError& error) {
+        if (error.Number != kNoCurrentRecord) throw;
+        return false;
+    }
+}
+
 bool IsDefaultFeed(const Recordset& row) {
     const FieldValue readOnly = row.Value(kReadOnlyColumn);
     return !IsNull(readOnly) && ToBoolean(readOnly);
@@ -31,7 +41,8 @@ FeedLibrary::FeedLibrary(LibraryUse use, const std::string& path) {
 bool FeedLibrary::Find(std::string_view name) {
     table_->MoveFirst();
     while (!table_->AtEnd()) {
-        if (ShownText(table_->Value(kFeedNameColumn)) == name) return true;
+        const FieldValue value = table_->Value(kFeedNameColumn);
+        if (!IsNull(value) && ShownText(value) == name) return true;
         table_->MoveNext();
     }
     return false;

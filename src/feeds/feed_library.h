@@ -89,6 +89,9 @@ std::string LibraryPath();
 
 enum class LibraryUse { ReadOnly, ReadWrite };
 
+// Goes to the first row from wherever the table stands. False if it has none.
+bool GoToFirst(Recordset& table);
+
 // Whether the current row is one of the feeds that come with the program, which can be neither
 // replaced nor deleted.
 bool IsDefaultFeed(const Recordset& row);
@@ -102,7 +105,8 @@ class FeedLibrary {
     Recordset& Table() { return *table_; }
 
     // Walks from the first row to the first one whose name is exactly that, and returns whether
-    // there is one; it is the current row then. Raises 3021 when the table is empty.
+    // there is one; it is the current row then. A Null is no name, not even the empty one. Raises
+    // 3021 when the table is empty.
     bool Find(std::string_view name);
 
     void Close();

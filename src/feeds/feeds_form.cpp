@@ -34,7 +34,6 @@ void FeedsForm::SetUpControls() {
     lblFeedComponents.Caption = "Feed Components";
     lblFeedComponents.Visible = false;
     grdFeedData.Visible = false;
-    grdFeedData.FixedCols = 1;
 }
 
 void FeedsForm::PlaceControls() {
@@ -217,7 +216,7 @@ void FeedsForm::grdFeedData_BeforeEdit(int row, int col, bool& cancel) {
 
 void FeedsForm::grdFeedData_ValidateEdit(int row, int col, bool& cancel) {
     if (row == kNameRow && col == kValueColumn) RenameFeed(cancel);
-    ValidateFeedEdit(grdFeedData, row, cancel);
+    ValidateFeedEdit(grdFeedData, row, col, cancel);
 }
 
 void FeedsForm::grdFeedData_AfterEdit(int row, int /*col*/) { AfterFeedEdit(grdFeedData, row); }

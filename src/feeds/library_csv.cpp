@@ -62,7 +62,9 @@ bool IsBlank(const std::vector<CsvCell>& cells) {
 
 LibraryRow ReadRowValues(const std::vector<CsvCell>& cells, const ColumnList& columns) {
     if (cells.size() != columns.size()) {
-        throw CsvFault(cells.front().Line, 0,
+        // At the first cell that is missing, or too many.
+        throw CsvFault(cells.front().Line,
+                       static_cast<int>(std::min(cells.size(), columns.size())) + 1,
                        "the row has " + std::to_string(cells.size()) + " cells, not " +
                            std::to_string(columns.size()));
     }
@@ -142,7 +144,7 @@ std::string LibraryCsv(Recordset& table) {
     for (const FeedColumn* const column : all.Columns)
         cells.push_back(CsvText(column->Name));
     std::string text = Line(cells);
-    if (!table.AtEnd()) table.MoveFirst();
+    GoToFirst(table);
     for (; !table.AtEnd(); table.MoveNext()) {
         const LibraryRow row = CurrentRow(table, all.Columns);
         std::transform(row.Values.begin(), row.Values.end(), cells.begin(), Cell);

@@ -2,6 +2,7 @@
 
 #include "core/display_text.h"
 #include "core/number_text.h"
+#include "feeds/collection.h"
 #include "feeds/value_limits.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ class RowCheck {
     }
 
     void CheckText(std::size_t place, const std::string& text) const {
-        if (text.size() > kLongestText) Refuse(place, "the text is longer than 255 characters");
+        if (LengthOf(text) > kLongestText) Refuse(place, "the text is longer than 255 characters");
         const bool control = std::any_of(text.begin(), text.end(), [](char c) {
             return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
         });
@@ -87,14 +88,19 @@ class RowCheck {
     const ColumnList& columns_;
 };
 
+struct StoredRow {
+    int Place = 0;  // in the table, from 0
+    LibraryRow Row;
+};
+
 // The first row of each name in the library, as its name is shown.
-std::map<std::string, LibraryRow> RowsByName(Recordset& table, const ColumnList& columns) {
-    std::map<std::string, LibraryRow> rows;
-    if (!table.AtEnd()) table.MoveFirst();
-    for (; !table.AtEnd(); table.MoveNext()) {
+std::map<std::string, StoredRow> RowsByName(Recordset& table, const ColumnList& columns) {
+    std::map<std::string, StoredRow> rows;
+    GoToFirst(table);
+    for (int place = 0; !table.AtEnd(); table.MoveNext(), ++place) {
         LibraryRow row = CurrentRow(table, columns);
         std::string name = DisplayText(NameOf(row, columns));
-        rows.emplace(std::move(name), std::move(row));
+        rows.emplace(std::move(name), StoredRow{place, std::move(row)});
     }
     return rows;
 }
@@ -146,13 +152,13 @@ class Import {
             switch (fates_[i]) {
                 case Fate::Add:
                     library_.Table().AddNew();
-                    Write(row);
+                    Write(row, false);
                     ++result.Added;
                     break;
                 case Fate::Replace:
                     Seek(NameOf(row, rows_.Columns));
                     library_.Table().Edit();
-                    Write(row);
+                    Write(row, true);
                     ++result.Replaced;
                     break;
                 case Fate::Keep: ++result.Unchanged; break;
@@ -179,12 +185,12 @@ class Import {
     Fate FateOf(const LibraryRow& row, const std::string& name) const {
         const auto found = stored_.find(name);
         if (found == stored_.end()) return Fate::Add;
-        const FieldValue* const readOnly = Find(found->second, all_, kReadOnlyColumn);
+        const FieldValue* const readOnly = Find(found->second.Row, all_, kReadOnlyColumn);
         if (!IsNull(*readOnly) && ToBoolean(*readOnly)) return Fate::PassOver;
         for (std::size_t i = 0; i < rows_.Columns.size(); ++i) {
             const FeedColumn& column = *rows_.Columns[i];
             if (column.Name == kReadOnlyColumn) continue;
-            if (!IsSame(*Find(found->second, all_, column.Name), row.Values[i])) {
+            if (!IsSame(*Find(found->second.Row, all_, column.Name), row.Values[i])) {
                 return Fate::Replace;
             }
         }
@@ -192,16 +198,18 @@ class Import {
     }
 
     void Seek(const std::string& name) {
-        Recordset& table = library_.Table();
-        table.MoveFirst();
-        while (DisplayText(ShownText(table.Value(kFeedNameColumn))) != name)
-            table.MoveNext();
+        library_.Table().MoveFirst();
+        for (int i = stored_.at(name).Place; i > 0; --i)
+            library_.Table().MoveNext();
     }
 
-    void Write(const LibraryRow& row) {
+    // A field of a replaced row that says nothing new keeps its bytes.
+    void Write(const LibraryRow& row, bool replaces) {
         Recordset& table = library_.Table();
         for (std::size_t i = 0; i < rows_.Columns.size(); ++i) {
-            table.SetValue(rows_.Columns[i]->Name, row.Values[i]);
+            const std::string_view column = rows_.Columns[i]->Name;
+            if (replaces && IsSame(table.Value(column), row.Values[i])) continue;
+            table.SetValue(column, row.Values[i]);
         }
         table.SetValue(kReadOnlyColumn, false);
         table.Update();
@@ -210,7 +218,7 @@ class Import {
     FeedLibrary& library_;
     const LibraryRows& rows_;
     ColumnList all_;
-    std::map<std::string, LibraryRow> stored_;
+    std::map<std::string, StoredRow> stored_;
     std::vector<Fate> fates_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "feeds/feed_columns.h"
 #include "store/library_format.h"
+#include "store/protected_file_lock.h"
 #include "store/sqlite_connection.h"
 #include "store/sqlite_recordset.h"
 
@@ -40,6 +41,7 @@ void RequireLibraryHeader(const SqlConnection& connection) {
 // The lock is taken at once and, in this locking mode, kept until the file is closed.
 void LockExclusively(const SqlConnection& connection) {
     connection.Execute("PRAGMA locking_mode = EXCLUSIVE");
+    // On a protected file this keeps out those who could write it; its own lock the others.
     connection.Execute(connection.IsWriteProtected() ? "BEGIN" : "BEGIN EXCLUSIVE");
     connection.Integer("SELECT count(*) FROM sqlite_schema");
     connection.Execute("COMMIT");
@@ -63,8 +65,9 @@ void RequireColumns(const SqlConnection& connection, const std::string& table) {
 
 class SqliteDatabase : public Database {
   public:
-    SqliteDatabase(std::unique_ptr<SqlConnection> connection, bool readOnly)
-        : connection_(std::move(connection)), readOnly_(readOnly) {}
+    SqliteDatabase(std::unique_ptr<ProtectedFileLock> lock,
+                   std::unique_ptr<SqlConnection> connection, bool readOnly)
+        : lock_(std::move(lock)), connection_(std::move(connection)), readOnly_(readOnly) {}
 
     std::unique_ptr<Recordset> OpenRecordset(std::string_view table) override {
         RequireOpen();
@@ -79,6 +82,7 @@ class SqliteDatabase : public Database {
     void Close() override {
         transaction_.reset();
         connection_.reset();
+        lock_.reset();
     }
 
     void BeginTrans() override {
@@ -99,6 +103,7 @@ class SqliteDatabase : public Database {
         if (!connection_) Raise(kInvalidProcedureCall);
     }
 
+    std::unique_ptr<ProtectedFileLock> lock_;  // goes after the connection
     std::unique_ptr<SqlConnection> connection_;
     bool readOnly_;
     std::unique_ptr<SqlTransaction> transaction_;
@@ -122,8 +127,12 @@ std::string_view PasswordOf(std::string_view connect) {
 std::unique_ptr<Database> SqliteEngine::OpenDatabase(const std::string& path, bool exclusive,
                                                      bool readOnly, std::string_view connect) {
     RequireFile(path);
+    std::unique_ptr<ProtectedFileLock> lock;
     auto connection = std::make_unique<SqlConnection>(path, SqlConnection::Mode::Existing);
     RequireLibraryHeader(*connection);
+    if (exclusive && connection->IsWriteProtected()) {
+        lock = std::make_unique<ProtectedFileLock>(path);
+    }
     if (exclusive) LockExclusively(*connection);
     if (connection->Integer("PRAGMA user_version") != PasswordCheck(PasswordOf(connect))) {
         Raise(kNotAValidPassword);
@@ -131,7 +140,7 @@ std::unique_ptr<Database> SqliteEngine::OpenDatabase(const std::string& path, bo
     if (!readOnly && connection->IsWriteProtected()) Raise(kPermissionDenied);
     RequireSound(*connection);
     connection->Execute("PRAGMA synchronous = EXTRA");
-    return std::make_unique<SqliteDatabase>(std::move(connection), readOnly);
+    return std::make_unique<SqliteDatabase>(std::move(lock), std::move(connection), readOnly);
 }
 
 }  // namespace tav

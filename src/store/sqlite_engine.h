@@ -6,8 +6,7 @@
 namespace tav {
 
 // Holds the file locked, against this process as well, for as long as the database is open. A file
-// that the system protects from writing can be opened read-only, and is then shared with others who
-// can't change it either.
+// that the system protects from writing can be opened read-only, and is locked all the same.
 class SqliteEngine : public LibraryEngine {
   public:
     std::unique_ptr<Database> OpenDatabase(const std::string& path, bool exclusive, bool readOnly,

@@ -54,6 +54,30 @@ TEST_F(FeedsCommand, ListsAndShowsFeeds) {
     EXPECT_EQ(missing.Messages, "tav: the library has no feed \"My\". See: tav feeds list\n");
 }
 
+// Bytes of another code page, and signs that would do something to a terminal.
+TEST_F(FeedsCommand, ShowsAFeedByTheNameThatTheListShows) {
+    {
+        FeedLibrary library = small.Open();
+        for (const std::string name : {"Gr\xFCnmehl", "two\nlines", "Gr\xFCn \x1B[1m"}) {
+            library.Table().AddNew();
+            library.Table().SetValue("Feed Name", name);
+            library.Table().SetValue("IFN", "no. " + std::to_string(name.size()));
+            library.Table().Update();
+        }
+    }
+    const std::string list = Run({"list"}).Output;
+    for (const std::string name : {"Grünmehl", "two?lines", "Grün ?[1m"}) {
+        EXPECT_NE(list.find("\n" + name + " "), std::string::npos) << list;
+        const Result shown = Run({"show", name});
+        EXPECT_EQ(shown.Status, 0) << shown.Messages;
+        EXPECT_NE(shown.Output.find("Feed Name           " + name + "\n"), std::string::npos)
+            << shown.Output;
+    }
+    EXPECT_EQ(Run({"show", "Gr\xFCnmehl"}).Status, 0);
+    EXPECT_EQ(Run({"show", "no\x1B"}).Messages,
+              "tav: the library has no feed \"no?\". See: tav feeds list\n");
+}
+
 TEST_F(FeedsCommand, ImportsItsOwnExportWithoutAChange) {
     const std::string csv = small.Path("feeds.csv");
     ASSERT_EQ(Run({"export", csv}).Status, 0);

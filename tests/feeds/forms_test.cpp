@@ -56,21 +56,64 @@ TEST(Collection, CountsTo255AndNoFurther) {
     TheSimulation() = {};
 }
 
-// A save that fails tells its number, and the feed stays a default feed of the collection.
-TEST(FeedForms, AFailedSaveLeavesTheCollectionAsItWas) {
+// The screens on a program with a library and a simulation of its own.
+class FeedScreens : public ::testing::Test {
+  protected:
+    FeedScreens() {
+        SetPlatform(platform);
+        TheProgram() = {};
+        TheSimulation() = {};
+        TheProgram().AppPath = small.Path("");
+        TheProgram().AppPath.pop_back();
+        std::filesystem::rename(small.Path(), small.Path(std::string(kLibraryFile)));
+        TheForms().Register("frmFeeds", [] { return std::make_unique<FeedsForm>(); });
+        TheForms().Register("frmAddFeed", [] { return std::make_unique<AddFeedForm>(); });
+    }
+    ~FeedScreens() override {
+        TheForms().Clear();
+        TheSimulation() = {};
+    }
+
+    static AddFeedForm& OpenPicker() {
+        auto& feeds = static_cast<FeedsForm&>(TheForms().Show("frmFeeds"));
+        feeds.cmdAddFeed.UserClick();
+        return TheForms().Get<AddFeedForm>("frmAddFeed");
+    }
+
     const SmallLibrary small;
     HeadlessPlatform platform;
-    SetPlatform(platform);
-    TheProgram() = {};
-    TheSimulation() = {};
-    TheProgram().AppPath = small.Path("");
-    TheProgram().AppPath.pop_back();
-    std::filesystem::rename(small.Path(), small.Path(std::string(kLibraryFile)));
+};
+
+// A full ration counts no further: what is added is read over the last feed, which keeps its
+// amount.
+TEST_F(FeedScreens, ReadsTheFeedBehindThe255thOverTheLastOne) {
+    for (int i = 1; i <= 254; ++i)
+        AddFeed().Name = "Feed " + std::to_string(i);
+    AddFeed().Name = "Last";
+    FeedAt(255).Qty = 4;
+    FeedAt(255).CaBio = 0.5;
+    AddFeedForm& picker = OpenPicker();
+    picker.lstCategory[2].UserMark(0, true);  // Corn
+    picker.lstCategory[2].UserMark(1, true);  // Barley
+    picker.cmdAddFeed.UserClick();
+    EXPECT_EQ(TheForms().Find("frmAddFeed"), nullptr);
+    EXPECT_EQ(platform.Messages.size(), 0U);
+    EXPECT_EQ(TheSimulation().NumFeeds, 255);
+    EXPECT_EQ(TheSimulation().Feeds.size(), 255U);
+    EXPECT_EQ(FeedAt(254).Name, "Feed 254");
+    EXPECT_EQ(FeedAt(255).Name, "Barley");
+    EXPECT_EQ(FeedAt(255).Qty, 4);
+    EXPECT_EQ(FeedAt(255).CP, 12);
+    EXPECT_EQ(FeedAt(255).Ca, Single(0.03));  // Barley's is Null, so that Corn's stands
+    EXPECT_EQ(FeedAt(255).CaBio, 0.5);
+}
+
+// A save that fails tells its number, and the feed stays a default feed of the collection.
+TEST_F(FeedScreens, AFailedSaveLeavesTheCollectionAsItWas) {
     FeedRecord& feed = AddFeed();
     feed.Name = "New";
     feed.Category = "Energy Source";
     feed.ReadOnly = true;
-    TheForms().Register("frmFeeds", [] { return std::make_unique<FeedsForm>(); });
     auto& form = static_cast<FeedsForm&>(TheForms().Show("frmFeeds"));
     {
         const FeedLibrary other(LibraryUse::ReadOnly);
@@ -85,8 +128,6 @@ TEST(FeedForms, AFailedSaveLeavesTheCollectionAsItWas) {
     form.cmdSaveFeedToLibrary.UserClick();
     EXPECT_FALSE(FeedAt(1).ReadOnly);
     EXPECT_TRUE(FeedLibrary(LibraryUse::ReadOnly).Find("New"));
-    TheForms().Clear();
-    TheSimulation() = {};
 }
 
 }  // namespace

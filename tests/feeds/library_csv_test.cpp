@@ -58,14 +58,14 @@ TEST(LibraryCsv, NamesTheLineAndColumnOfAFault) {
     EXPECT_EQ(FaultOf("IFN,Feed Name,IFN\n"), "1, 3: the column \"IFN\" stands here twice");
     EXPECT_EQ(FaultOf(head + "\"a\nb\",Fat,1\nc,Fat,x\n"), "4, 3: Ca (%DM): \"x\" is not a number");
     EXPECT_EQ(FaultOf(head + "a,Fat,\"1,5\"\n"), "2, 3: Ca (%DM): \"1,5\" is not a number");
-    EXPECT_EQ(FaultOf(head + "a,Fat\n"), "2, 0: the row has 2 cells, not 3");
-    EXPECT_EQ(FaultOf(head + "a,Fat,1,2\n"), "2, 0: the row has 4 cells, not 3");
+    EXPECT_EQ(FaultOf(head + "a,Fat\n"), "2, 3: the row has 2 cells, not 3");
+    EXPECT_EQ(FaultOf(head + "a,Fat,1,2\n"), "2, 4: the row has 4 cells, not 3");
     EXPECT_EQ(FaultOf(head + "a,\"Fat\"x,1\n"),
               "2, 2: text stands behind the closing quotation mark");
     EXPECT_EQ(FaultOf(head + "a,Fat,1\nb,\"Fat,1\n"), "3, 2: the quotation mark is not closed");
     EXPECT_EQ(FaultOf("Feed Name,Read Only\na,yes\n"),
               "2, 2: Read Only: \"yes\" is neither True nor False");
-    EXPECT_EQ(FaultOf(head + std::string(2000, ',') + "\n"), "2, 0: the row has too many cells");
+    EXPECT_EQ(FaultOf(head + std::string(2000, ',') + "\n"), "2, 1001: the row has too many cells");
 }
 
 TEST(LibraryCsv, PassesOverRowsOfEmptyCells) {

@@ -43,6 +43,12 @@ TEST(LibraryFile, FindsANameToTheLetterOnly) {
     EXPECT_TRUE(library.Find("Corn"));
 }
 
+TEST(LibraryFile, ANullIsNoNameAndNotTheEmptyOne) {
+    const SmallLibrary small("Feed Name,IFN,Category\n,1,Fat\n\"\",2,Fat\n");
+    EXPECT_EQ(small.Value("", "IFN"), FieldValue("2"));
+    EXPECT_FALSE(SmallLibrary("Feed Name,Category\n,Fat\n").Open().Find(""));
+}
+
 TEST(LibraryFile, AddsBehindTheLastRowAndStaysWhereItWas) {
     const SmallLibrary small;
     {

@@ -1,4 +1,5 @@
 // The library between two processes, one of which may be killed at any moment.
+#include "feeds/library_import.h"
 #include "feeds/small_library.h"
 
 #include <array>
@@ -20,7 +21,10 @@ class OtherProcess {
     explicit OtherProcess(const std::function<void(const std::function<void()>& ready)>& action) {
         if (pipe(ends_.data()) != 0) throw std::runtime_error("no pipe");
         process_ = fork();
-        if (process_ != 0) return;
+        if (process_ != 0) {
+            close(ends_[1]);  // so that a process that ends ends the waiting for it
+            return;
+        }
         try {
             action([this] { static_cast<void>(!write(ends_[1], "r", 1)); });
             while (true)
@@ -32,7 +36,6 @@ class OtherProcess {
     ~OtherProcess() {
         Kill();
         close(ends_[0]);
-        close(ends_[1]);
     }
     OtherProcess(const OtherProcess&) = delete;
     OtherProcess& operator=(const OtherProcess&) = delete;
@@ -121,6 +124,84 @@ TEST(LibraryProcesses, AKillInMidWriteLeavesTheRowAsBeforeOrAsAfter) {
                   std::string(3000, static_cast<char>('a' + generation % 26)));
     }
     EXPECT_EQ(small.Names(), "Corn|My hay|Barley|");
+}
+
+// Twelve feeds, all with the vitamin of one generation.
+std::string GenerationCsv(int generation) {
+    std::string csv = "Feed Name,Category,Vit-A (1000 IU/kg)\n";
+    for (int i = 1; i <= 12; ++i) {
+        csv += "Feed " + std::to_string(i) + ",Fat," + std::to_string(generation) + "\n";
+    }
+    return csv;
+}
+
+TEST(LibraryProcesses, AKillInMidImportLeavesAllOfItsRowsOrNone) {
+    const SmallLibrary small;
+    int last = 0;
+    for (int round = 0; round < 25; ++round) {
+        OtherProcess writer([&](const auto& ready) {
+            FeedLibrary library = small.Open();
+            for (int generation = last + 1;; ++generation) {
+                ImportFeeds(library, ReadLibraryCsv(GenerationCsv(generation)));
+                if (generation == last + 1) ready();
+            }
+        });
+        writer.WaitUntilReady();
+        std::this_thread::sleep_for(std::chrono::microseconds(500 + 4177 * round));
+        writer.Kill();
+
+        FeedLibrary library = small.Open();
+        int feeds = 0;
+        int generation = 0;
+        for (Recordset& row = library.Table(); !row.AtEnd(); row.MoveNext()) {
+            if (!ShownText(row.Value("Feed Name")).starts_with("Feed ")) continue;
+            const int value = static_cast<int>(std::get<double>(row.Value("Vit-A (1000 IU/kg)")));
+            if (++feeds == 1) generation = value;
+            ASSERT_EQ(value, generation);
+        }
+        ASSERT_EQ(feeds, 12);
+        ASSERT_GT(generation, last);
+        last = generation;
+    }
+}
+
+// Gives up the rights that let a superuser write a protected file.
+void BecomeAnyone() {
+    constexpr uid_t kAnyone = 65534;
+    if (geteuid() == 0 && setuid(kAnyone) != 0) _exit(1);
+}
+
+TEST(LibraryProcesses, AProtectedLibraryIsOpenToOneAtATime) {
+    namespace fs = std::filesystem;
+    const SmallLibrary small;
+    constexpr fs::perms kReadable =
+        fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+    fs::permissions(small.Path(""), kReadable | fs::perms::owner_all | fs::perms::group_exec |
+                                        fs::perms::others_exec);
+    fs::permissions(small.Path(), kReadable);
+    const auto open = [&](const auto& ready) {
+        BecomeAnyone();
+        if (small.OpeningFault(LibraryUse::ReadWrite) != kPermissionDenied) _exit(1);
+        FeedLibrary library = small.Open(LibraryUse::ReadOnly);
+        if (small.OpeningFault(LibraryUse::ReadOnly) != kFileInUse) _exit(1);
+        if (ShownText(library.Table().Value("Feed Name")) != "Corn") _exit(1);
+        ready();
+        while (true)
+            pause();
+    };
+    const auto tryToOpen = [&](const auto& ready) {
+        BecomeAnyone();
+        if (small.OpeningFault(LibraryUse::ReadOnly) != kFileInUse) _exit(1);
+        ready();
+    };
+    OtherProcess first(open);
+    first.WaitUntilReady();
+    EXPECT_EQ(small.OpeningFault(), kFileInUse);
+    OtherProcess second(tryToOpen);
+    second.WaitUntilReady();
+    first.Kill();
+    OtherProcess third(open);
+    third.WaitUntilReady();
 }
 
 }  // namespace
