@@ -16,9 +16,11 @@
 #include <fstream>
 #include <random>
 #include <sstream>
+#include <system_error>
 #include <thread>
 
 #include <gtest/gtest.h>
+#include <pthread.h>
 
 namespace tav {
 namespace {
@@ -176,6 +178,38 @@ TEST_F(Batch, HoweverTheThreadsFallTheBytesAreTheSame) {
         EXPECT_EQ(State.Rows, static_cast<std::int64_t>(LinesIn(expected)));
         EXPECT_EQ(DumpOfSimulation(), last);
     }
+}
+
+// Asks for stacks that no machine has while it stands, so that no thread can be started.
+class NoThreads {
+  public:
+    NoThreads() {
+        pthread_getattr_default_np(&before_);
+        pthread_attr_t greedy;
+        pthread_attr_init(&greedy);
+        pthread_attr_setstacksize(&greedy, std::size_t{1} << 56);
+        pthread_setattr_default_np(&greedy);
+        pthread_attr_destroy(&greedy);
+    }
+    ~NoThreads() {
+        pthread_setattr_default_np(&before_);
+        pthread_attr_destroy(&before_);
+    }
+    NoThreads(const NoThreads&) = delete;
+    NoThreads& operator=(const NoThreads&) = delete;
+
+  private:
+    pthread_attr_t before_;
+};
+
+TEST_F(Batch, GoesOnWithoutReadersWhenThereAreNoThreads) {
+    const Paths paths = MixedHerd(50);
+    const std::string expected = RowsByTheLoader(paths);
+    TheSimulation() = {};
+    const NoThreads none;
+    EXPECT_THROW(std::thread([] {}).join(), std::system_error);
+    EXPECT_EQ(Run(paths, 7), 0);
+    EXPECT_TRUE(Contents(Output).ends_with(expected));
 }
 
 TEST_F(Batch, RowsBeforeAnErrorStay) {
