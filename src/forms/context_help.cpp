@@ -19,16 +19,21 @@ void ShowTopic(int command) {
     ThePlatform().ShowHelp(dialog);
 }
 
-}  // namespace
-
-void OpenContextMenu(Control& control) {
+void OpenMenu(std::string_view name, Control& control) {
     Form* const parent = TheForms().Find("frmParent");
     if (parent == nullptr) return;
-    auto* const menu = dynamic_cast<MenuItem*>(parent->Find("mnuContextMenu"));
+    auto* const menu = dynamic_cast<MenuItem*>(parent->Find(name));
     if (menu == nullptr) return;
-    contextControl = &control;
+    contextControl = nullptr;
     parent->PopUp(*menu, [] { contextControl = nullptr; });
+    contextControl = &control;
 }
+
+}  // namespace
+
+void OpenContextMenu(Control& control) { OpenMenu("mnuContextMenu", control); }
+
+void OpenJumpMenu(Control& control) { OpenMenu("mnuJumpMenu", control); }
 
 Control* ContextControl() { return contextControl; }
 

@@ -9,6 +9,10 @@ namespace tav {
 // until the menu closes. Nothing without a main window.
 void OpenContextMenu(Control& control);
 
+// The same with the pop-up that stands over the help on a control, from which its topic can be
+// opened in the viewer.
+void OpenJumpMenu(Control& control);
+
 // The control that the open pop-up menu is about, null if none is open.
 Control* ContextControl();
 

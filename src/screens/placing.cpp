@@ -3,8 +3,7 @@
 namespace tav {
 namespace {
 
-constexpr int kBetween = 120;   // a label and its box
-constexpr int kLabelDrop = 45;  // so that a label stands at the height of the text in its box
+constexpr int kBetween = 120;  // a label and its box
 
 }  // namespace
 
@@ -17,7 +16,7 @@ void PlaceOn(TabControl& tabs, int page, Control& control, int left, int top, in
 void PlaceField(const FieldColumn& column, Label& label, const std::string& caption, Control& box,
                 int top) {
     label.Caption = caption;
-    label.Move(column.Left, top + kLabelDrop, column.LabelWidth, kLineHeight);
+    label.Move(column.Left, top, column.LabelWidth, kLineHeight);
     box.Move(column.Left + column.LabelWidth + kBetween, top, column.BoxWidth, kBoxHeight);
 }
 

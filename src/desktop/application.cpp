@@ -1,0 +1,70 @@
+#include "desktop/application.h"
+
+#include "core/number_text.h"
+#include "core/program_state.h"
+#include "desktop/desktop.h"
+#include "desktop/own_folder.h"
+#include "desktop/pictures.h"
+#include "desktop/printing.h"
+#include "desktop/theme.h"
+#include "desktop/whats_this.h"
+#include "feeds/feed_library.h"
+#include "reports/vs_printer.h"
+#include "store/sqlite_engine.h"
+
+#include <QApplication>
+#include <QLocale>
+
+// Outside of any namespace, as the resource compiler has it.
+static void InitPictures() { Q_INIT_RESOURCE(pictures); }
+
+namespace tav {
+namespace {
+
+int ExitStatus() { return TheProgram().FatalError == 0 ? 0 : 1; }
+
+// Nothing leaves an event without the user being told.
+class Application : public QApplication {
+  public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::exception& fault) {
+            TheDesktop().EndWithFault(fault.what());
+            return true;
+        }
+    }
+};
+
+// A comma or a point: other scripts have signs of their own, which no file of ours holds.
+void TakeDecimalSeparator() {
+    SetDecimalSeparator(QLocale::system().decimalPoint() == QLatin1String(",") ? ',' : '.');
+}
+
+}  // namespace
+
+void SetUpDesktop() {
+    static SqliteEngine library;
+    InitPictures();
+    ApplyTheme();
+    TakeDecimalSeparator();
+    SetLibraryEngine(library);
+    SetReportPrinter(PrintReport);
+    InstallHelpKeys();
+    QApplication::setWindowIcon(IconOf("Logo"));
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+int RunDesktop(int argc, char** argv) {
+    const Application application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("TAV Dairy Cattle Program"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tav-dairy"));
+    SetUpDesktop();
+    if (OfferOwnFolder()) return 0;
+    TheDesktop().Start();
+    return TheProgram().Ended ? ExitStatus() : QApplication::exec();
+}
+
+}  // namespace tav

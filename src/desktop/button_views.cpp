@@ -1,0 +1,58 @@
+#include "desktop/button_views.h"
+
+#include "desktop/text.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace tav {
+
+ButtonView::ButtonView(CaptionedControl& model, QAbstractButton* button, FormView& form)
+    : ControlView(model, *button, form), model_(model), button_(*button) {
+    Watch(*button);
+    QObject::connect(button, &QAbstractButton::clicked,
+                     [this] { Perform([this] { model_.UserClick(); }); });
+}
+
+void ButtonView::SyncContent() {
+    const QString caption = ToQt(model_.Caption);
+    if (button_.text() != caption) button_.setText(caption);
+}
+
+// The control presses itself for Space.
+bool ButtonView::ConsumesKey(const QKeyEvent& key) const {
+    return key.key() == Qt::Key_Space || ControlView::ConsumesKey(key);
+}
+
+bool ButtonView::EntersFor(Qt::FocusReason reason) const {
+    return reason != Qt::MouseFocusReason && ControlView::EntersFor(reason);
+}
+
+OptionView::OptionView(OptionButton& model, QWidget& parent, FormView& form)
+    : ButtonView(model, new QRadioButton(&parent), form), model_(model) {}
+
+// An exclusive button can't be switched off by itself.
+void OptionView::SyncContent() {
+    ButtonView::SyncContent();
+    Button().setAutoExclusive(false);
+    Button().setChecked(model_.Value());
+    Button().setAutoExclusive(true);
+}
+
+CheckView::CheckView(CheckBox& model, QWidget& parent, FormView& form)
+    : ButtonView(model, new QCheckBox(&parent), form), model_(model) {}
+
+void CheckView::SyncContent() {
+    ButtonView::SyncContent();
+    Button().setChecked(model_.Value);
+}
+
+CommandView::CommandView(CommandButton& model, QWidget& parent, FormView& form)
+    : ButtonView(model, new QPushButton(&parent), form) {
+    auto* const button = static_cast<QPushButton*>(&Button());
+    button->setAutoDefault(false);
+    button->setDefault(model.Default);
+}
+
+}  // namespace tav

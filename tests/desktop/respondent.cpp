@@ -1,0 +1,116 @@
+#include "respondent.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+
+#include <QtTest/QTest>
+#include <gtest/gtest.h>
+
+namespace tav {
+namespace {
+
+constexpr int kLookEvery = 2;  // milliseconds
+
+void Escape(QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }
+
+QWidget* DialogOnShow() {
+    if (QWidget* const popUp = QApplication::activePopupWidget()) {
+        return qobject_cast<QMenu*>(popUp);
+    }
+    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+}
+
+bool OnlyInforms(const QWidget& dialog) {
+    const auto* const box = qobject_cast<const QMessageBox*>(&dialog);
+    return box != nullptr && box->standardButtons() == QMessageBox::Ok;
+}
+
+}  // namespace
+
+Respondent::Respondent() {
+    connect(&timer_, &QTimer::timeout, this, [this] { Look(); });
+    timer_.start(kLookEvery);
+}
+
+void Respondent::Press(QMessageBox::StandardButton button) {
+    Do([button](QWidget& dialog) {
+        auto* const box = qobject_cast<QMessageBox*>(&dialog);
+        QAbstractButton* const wanted = box == nullptr ? nullptr : box->button(button);
+        if (wanted == nullptr) {
+            ADD_FAILURE() << "no such button to press: " << button;
+            Escape(dialog);
+            return;
+        }
+        QTest::mouseClick(wanted, Qt::LeftButton);
+    });
+}
+
+void Respondent::ChooseFile(const std::string& path) {
+    Do([path](QWidget& dialog) {
+        auto* const name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        if (qobject_cast<QFileDialog*>(&dialog) == nullptr || name == nullptr) {
+            ADD_FAILURE() << "no file dialog to choose " << path << " in";
+            Escape(dialog);
+            return;
+        }
+        name->setText(QString::fromStdString(path));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+void Respondent::ChooseEntry(const std::string& text) {
+    Do([text](QWidget& dialog) {
+        auto* const menu = qobject_cast<QMenu*>(&dialog);
+        QAction* wanted = nullptr;
+        for (QAction* const action : menu == nullptr ? QList<QAction*>{} : menu->actions()) {
+            if (action->text().remove(QLatin1Char('&')).toStdString() == text) wanted = action;
+        }
+        if (wanted == nullptr) {
+            ADD_FAILURE() << "no entry " << text << " to choose";
+            Escape(dialog);
+            return;
+        }
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(wanted).center());
+    });
+}
+
+void Respondent::Do(std::function<void(QWidget&)> answer) { answers_.push_back(std::move(answer)); }
+
+std::vector<Said> Respondent::TakeSaid() { return std::exchange(said_, {}); }
+
+void Respondent::Look() {
+    QWidget* const dialog = DialogOnShow();
+    if (busy_ || dialog == nullptr || !dialog->isVisible()) return;
+    if (const auto* const box = qobject_cast<QMessageBox*>(dialog)) Note(*box);
+    busy_ = true;
+    Answer(*dialog);
+    busy_ = false;
+}
+
+void Respondent::Answer(QWidget& dialog) {
+    if (OnlyInforms(dialog) && answers_.empty()) {
+        QTest::mouseClick(qobject_cast<QMessageBox*>(&dialog)->button(QMessageBox::Ok),
+                          Qt::LeftButton);
+        return;
+    }
+    if (answers_.empty()) {
+        ADD_FAILURE() << "nobody expected " << dialog.metaObject()->className() << ": "
+                      << (said_.empty() ? std::string() : said_.back().Text);
+        Escape(dialog);
+        return;
+    }
+    const auto answer = std::move(answers_.front());
+    answers_.pop_front();
+    answer(dialog);
+}
+
+void Respondent::Note(const QMessageBox& box) {
+    said_.push_back({box.windowTitle().toStdString(), box.text().toStdString(),
+                     box.informativeText().toStdString(), box.icon(), box.textFormat(),
+                     box.standardButtons()});
+}
+
+}  // namespace tav

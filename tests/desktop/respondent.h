@@ -1,0 +1,53 @@
+// Somebody who answers what the program asks while a test drives it.
+#pragma once
+
+#include <QMessageBox>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+class QFileDialog;
+
+namespace tav {
+
+// A message box as it stood on the screen.
+struct Said {
+    std::string Title, Text, Further;
+    QMessageBox::Icon Icon = QMessageBox::NoIcon;
+    Qt::TextFormat Format = Qt::AutoText;
+    QMessageBox::StandardButtons Buttons = QMessageBox::NoButton;
+};
+
+// Each dialog or pop-up menu that opens takes the next answer. A message that only informs needs
+// none; anything else without an answer is a failure, and is escaped from.
+class Respondent : public QObject {
+  public:
+    Respondent();
+
+    void Press(QMessageBox::StandardButton button);
+    void ChooseFile(const std::string& path);
+    // The entry of a pop-up menu whose text, without its access key, that is.
+    void ChooseEntry(const std::string& text);
+    // Anything else: looks at the dialog and must close it.
+    void Do(std::function<void(QWidget&)> answer);
+
+    // What has been said since the last call.
+    std::vector<Said> TakeSaid();
+    // All answers have been asked for.
+    bool IsDone() const { return answers_.empty(); }
+    void Forget() { answers_.clear(); }
+
+  private:
+    void Look();
+    void Answer(QWidget& dialog);
+    void Note(const QMessageBox& box);
+
+    QTimer timer_;
+    std::deque<std::function<void(QWidget&)>> answers_;
+    std::vector<Said> said_;
+    bool busy_ = false;
+};
+
+}  // namespace tav
