@@ -1,19 +1,18 @@
 #include "desktop/application.h"
 
-#include "core/number_text.h"
 #include "core/program_state.h"
 #include "desktop/desktop.h"
 #include "desktop/own_folder.h"
 #include "desktop/pictures.h"
 #include "desktop/printing.h"
 #include "desktop/theme.h"
+#include "desktop/user_locale.h"
 #include "desktop/whats_this.h"
 #include "feeds/feed_library.h"
 #include "reports/vs_printer.h"
 #include "store/sqlite_engine.h"
 
 #include <QApplication>
-#include <QLocale>
 
 // Outside of any namespace, as the resource compiler has it.
 static void InitPictures() { Q_INIT_RESOURCE(pictures); }
@@ -39,17 +38,13 @@ class Application : public QApplication {
 };
 
 // A comma or a point: other scripts have signs of their own, which no file of ours holds.
-void TakeDecimalSeparator() {
-    SetDecimalSeparator(QLocale::system().decimalPoint() == QLatin1String(",") ? ',' : '.');
-}
-
 }  // namespace
 
 void SetUpDesktop() {
     static SqliteEngine library;
     InitPictures();
     ApplyTheme();
-    TakeDecimalSeparator();
+    TakeLocale(QLocale::system());
     SetLibraryEngine(library);
     SetReportPrinter(PrintReport);
     InstallHelpKeys();

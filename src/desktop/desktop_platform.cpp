@@ -53,12 +53,17 @@ MessageAnswer AnswerOf(int button) {
     }
 }
 
-// Wide enough for its title to be read.
-void FitTitle(const QMessageBox& box) {
+// Wide enough for its title, and for the lines of its text as they stand.
+void FitWidth(const QMessageBox& box) {
     constexpr int kTitleButtons = 160;
+    constexpr int kIconAndMargins = 90;
+    constexpr int kMost = 680;
     auto* const grid = qobject_cast<QGridLayout*>(box.layout());
     if (grid == nullptr) return;
-    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kTitleButtons;
+    const QFontMetrics metrics(box.font());
+    const int title = metrics.horizontalAdvance(box.windowTitle()) + kTitleButtons;
+    const int text = metrics.size(0, box.text()).width() + kIconAndMargins;
+    const int width = std::min(std::max(title, text), kMost);
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
@@ -76,7 +81,7 @@ MessageAnswer DesktopPlatform::ShowMessage(const Message& message) {
                     ButtonsOf(message.Buttons), TheDesktop().FrontWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(message.Text));
-    FitTitle(box);
+    FitWidth(box);
     return AnswerOf(box.exec());
 }
 

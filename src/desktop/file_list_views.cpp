@@ -10,6 +10,7 @@ namespace tav {
 namespace {
 
 constexpr int kFolderRole = Qt::UserRole;
+constexpr int kIconPixels = 16;
 
 QIcon StandardIcon(QStyle::StandardPixmap picture) {
     return QApplication::style()->standardIcon(picture);
@@ -57,6 +58,7 @@ FolderListView::FolderListView(FolderList& model, QListWidget* list, FormView& f
     : ControlView(model, *list, form), model_(model), list_(*list) {
     Watch(*list);
     list->setAccessibleName(QStringLiteral("Folder"));
+    list->setIconSize({kIconPixels, kIconPixels});
     QObject::connect(list, &QListWidget::itemActivated,
                      [this](const QListWidgetItem* entry) { Open(entry); });
 }
