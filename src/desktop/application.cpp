@@ -37,7 +37,6 @@ class Application : public QApplication {
     }
 };
 
-// A comma or a point: other scripts have signs of their own, which no file of ours holds.
 }  // namespace
 
 void SetUpDesktop() {

@@ -62,7 +62,10 @@ void ShowPageOf(const std::string& path, const QString& topic) {
 void ShowShortText(const std::string& path, const std::string& name) {
     Control* const control = FindControl(name);
     const QString topic = control == nullptr ? ToQt(name) : ToQt(control->FullName());
-    const auto* const captioned = dynamic_cast<const CaptionedControl*>(control);
+    // Of controls that share a name it isn't known which one was meant.
+    const auto* const captioned = control == nullptr || control->Index() >= 0
+                                      ? nullptr
+                                      : dynamic_cast<const CaptionedControl*>(control);
     const QString shownName =
         captioned == nullptr ? QString() : WithoutAccessKey(captioned->Caption);
     ShowWhatsThis(

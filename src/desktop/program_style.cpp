@@ -21,7 +21,7 @@ constexpr std::array kDrawings = {
     Drawing{QStyle::SP_MessageBoxWarning, "Exclamation"},
     Drawing{QStyle::SP_MessageBoxCritical, "Critical"},
     Drawing{QStyle::SP_DirIcon, "Folder"},
-    Drawing{QStyle::SP_DirHomeIcon, "Folder"},
+    Drawing{QStyle::SP_DirHomeIcon, "Home"},
     Drawing{QStyle::SP_DirOpenIcon, "OpenFolder"},
     Drawing{QStyle::SP_FileDialogToParent, "ParentFolder"},
     Drawing{QStyle::SP_FileDialogBack, "Back"},
