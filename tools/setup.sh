@@ -4,9 +4,14 @@
 set -euo pipefail
 
 packages=(g++ cmake ninja-build ccache libcli11-dev rapidjson-dev libsqlite3-dev
-    pkg-config libpango1.0-dev fonts-liberation fonts-droid-fallback fonts-noto-core)
+    pkg-config libpango1.0-dev fonts-liberation fonts-droid-fallback fonts-noto-core
+    qt6-base-dev qt6-svg-dev)
+if [[ -n ${WAYLAND_DISPLAY:-} ]]; then
+    packages+=(qt6-wayland)
+fi
 if [[ ${1:-} == tests ]]; then
-    packages+=(libgtest-dev libbenchmark-dev clang libclang-rt-14-dev clang-format poppler-utils)
+    packages+=(libgtest-dev libbenchmark-dev clang libclang-rt-14-dev clang-format poppler-utils
+        dpkg-dev desktop-file-utils shared-mime-info xvfb xdotool openbox imagemagick)
 fi
 
 missing=()

@@ -4,6 +4,7 @@
 #include "desktop/pixels.h"
 #include "desktop/text.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -283,10 +284,18 @@ QString GridView::Typed() const {
 
 bool GridView::EditorEvent(QEvent& event) {
     if (event.type() == QEvent::KeyPress) return KeyInEditor(static_cast<QKeyEvent&>(event));
-    if (event.type() != QEvent::FocusOut || closing_) return false;
+    if (event.type() != QEvent::FocusOut || closing_ || HasKeyboard()) return false;
     const Qt::FocusReason reason = static_cast<QFocusEvent&>(event).reason();
     if (ControlView::EntersFor(reason)) FinishTyping();
     return false;
+}
+
+// In the list of a drop-down, too. The grid itself sees to a click on another of its cells.
+bool GridView::HasKeyboard() const {
+    const QObject* at = QApplication::focusWidget();
+    while (at != nullptr && at != &table_)
+        at = at->parent();
+    return at != nullptr;
 }
 
 bool GridView::KeyInEditor(const QKeyEvent& key) {

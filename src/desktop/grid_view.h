@@ -38,6 +38,7 @@ class GridView : public ControlView {
 
     bool TableEvent(QEvent& event);
     bool EditorEvent(QEvent& event);
+    bool HasKeyboard() const;
     bool KeyOnTable(const QKeyEvent& key);
     bool KeyInEditor(const QKeyEvent& key);
     void CursorMoved(const QModelIndex& to);

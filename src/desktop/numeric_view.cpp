@@ -21,7 +21,9 @@ NumericView::NumericView(NumericTextBox& model, QWidget& parent, FormView& form)
 NumericView::NumericView(NumericTextBox& model, QLineEdit* edit, FormView& form)
     : ControlView(model, *edit, form), model_(model), edit_(*edit) {
     Watch(*edit);
-    QObject::connect(edit, &QLineEdit::textEdited, [this](const QString& text) {
+    QObject::connect(edit, &QLineEdit::textEdited, [this](QString text) {
+        // A cell from a spreadsheet comes with the end of its line.
+        text.replace(QLatin1Char('\n'), QLatin1Char(' '));
         Perform([this, &text] {
             model_.Refusal.clear();
             model_.UserType(FromQt(text));

@@ -37,10 +37,10 @@ QString OwnCopy(const QString& here) {
     return {};
 }
 
+// In one plain text: folders may have any name.
 void ShowPlain(QMessageBox& box, const QString& text, const QString& more) {
     box.setTextFormat(Qt::PlainText);
-    box.setText(text);
-    box.setInformativeText(more);
+    box.setText(text + QStringLiteral("\n\n") + more);
 }
 
 void Tell(const QString& text, const QString& more) {
@@ -68,7 +68,7 @@ bool CopyTo(const QString& here, const QString& folder) {
 
 // The current folder stays as it is: it is where files are saved first.
 bool StartIn(const QString& folder) {
-    const QString program = QDir(folder).filePath(QStringLiteral("tav-dairy"));
+    const QString program = ProgramIn(folder);
     if (QProcess::startDetached(program, {})) {
         Memory().setValue(kRemembered, folder);
         return true;
@@ -137,7 +137,7 @@ Choice Ask(const QString& here) {
 // A folder of the program's name in the chosen one, unless that is a copy already. Empty if the
 // user has cancelled.
 QString ChosenFolder() {
-    const QString chosen = QFileDialog::getExistingDirectory(
+    QString chosen = QFileDialog::getExistingDirectory(
         nullptr, QStringLiteral("Choose a Folder for Your Own Copy"), QDir::homePath());
     if (chosen.isEmpty() || HoldsProgram(chosen) || QFileInfo(chosen).fileName() == kFolderName) {
         return chosen;

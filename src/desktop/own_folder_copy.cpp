@@ -12,6 +12,7 @@
 #include <QStorageInfo>
 #include <QTemporaryFile>
 #include <QVersionNumber>
+#include <array>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -30,7 +31,7 @@ struct Entry {
 };
 
 // In the order in which they are copied: the version last, so that a broken-off update is repeated.
-constexpr Entry kEntries[] = {
+constexpr auto kEntries = std::to_array<Entry>({
     {"README.txt", Owner::Program},
     {"LICENSE", Owner::Program},
     {"TAV Dairy Cattle Program Help.HLP", Owner::Program},
@@ -42,7 +43,7 @@ constexpr Entry kEntries[] = {
     {kProgramSettingsFile, Owner::User},
     {kProgram, Owner::Program},
     {kVersion, Owner::Program},
-};
+});
 
 QString In(const QString& folder, std::string_view name) {
     return QDir(folder).filePath(PathToQt(name));
@@ -124,8 +125,10 @@ bool CanWriteIn(const QString& folder) {
     return file.open() && file.write("x") == 1 && file.flush();
 }
 
+QString ProgramIn(const QString& folder) { return In(folder, kProgram); }
+
 bool HoldsProgram(const QString& folder) {
-    const QFileInfo program(In(folder, kProgram));
+    const QFileInfo program(ProgramIn(folder));
     return program.isFile() && program.isExecutable();
 }
 

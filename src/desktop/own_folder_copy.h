@@ -15,6 +15,9 @@ class CopyFault : public std::runtime_error {
 // Tries it with a temporary file: permissions alone don't tell (read-only disks, access lists).
 bool CanWriteIn(const QString& folder);
 
+// The desktop program's file in a program folder.
+QString ProgramIn(const QString& folder);
+
 // Whether the desktop program stands there and may be started. It is copied after all else, so a
 // copy that was broken off doesn't count.
 bool HoldsProgram(const QString& folder);

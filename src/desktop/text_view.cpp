@@ -38,8 +38,10 @@ MultiLineTextView::MultiLineTextView(TextBox& model, QPlainTextEdit* edit, FormV
     // Clicks reach the area in which the text stands.
     edit->viewport()->installEventFilter(this);
     QObject::connect(edit, &QPlainTextEdit::textChanged, [this] {
-        if (syncing_) return;
-        const std::string text = FromQt(edit_.toPlainText());
+        // A change of letters is told as one of the text as well.
+        const QString shown = edit_.toPlainText();
+        if (syncing_ || shown == ToQt(model_.Text)) return;
+        const std::string text = FromQt(shown);
         Perform([this, &text] { model_.UserType(text); });
     });
 }

@@ -19,6 +19,12 @@ bool IsNumberCharacter(char c) {
     return (c >= '0' && c <= '9') || c == '.' || c == '-' || c == DecimalSeparator();
 }
 
+// Whether that can be the beginning of a number with its unit, as it comes from the keys one by one.
+bool MayBecomeNumber(std::string_view text, std::string_view unit) {
+    const auto end = std::find_if_not(text.begin(), text.end(), IsNumberCharacter);
+    return unit.starts_with(Trimmed({end, text.end()}));
+}
+
 }  // namespace
 
 void TextBox::UserType(std::string_view text) {
@@ -53,7 +59,7 @@ void NumericTextBox::UserEnter() {
 void NumericTextBox::UserType(std::string_view text) {
     RequireUsable();
     if (!editing_) UserEnter();
-    if (NumberPart(text).empty() && !text.empty()) {
+    if (!MayBecomeNumber(Trimmed(text), Trimmed(Units))) {
         Refusal = "Enter a number.";
         return;
     }
