@@ -65,6 +65,8 @@ class HelpKeys : public QObject {
             return true;
         }
         if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier) return false;
+        // A menu has no use for it, and the help on a control knows its page.
+        if (QApplication::activePopupWidget() != nullptr) return false;
         const QWidget* const focus = QApplication::focusWidget();
         if (QApplication::activeModalWidget() != nullptr && ControlOf(focus) == nullptr) {
             return false;

@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QMenuBar>
-#include <QPointer>
 #include <QTabBar>
 #include <QToolButton>
 #include <QWindow>
@@ -26,6 +25,21 @@ QString Plain(QString text) { return text.remove(QLatin1Char('&')); }
 QPoint MarkOf(const QWidget& widget) {
     const bool marked = widget.inherits("QRadioButton") || widget.inherits("QCheckBox");
     return marked ? QPoint(8, widget.height() / 2) : widget.rect().center();
+}
+
+// A window manager gives the keyboard back to the window under one that closes; here there is none.
+void GiveKeyboardBack() {
+    if (QGuiApplication::focusWindow() != nullptr) return;
+    QWidget* const modal = QApplication::activeModalWidget();
+    QWidget* const front = modal != nullptr ? modal : TheDesktop().FrontWindow();
+    if (front != nullptr && front->isVisible()) front->activateWindow();
+    QCoreApplication::processEvents();
+}
+
+QWindow& WindowWithKeyboard() {
+    QWindow* const window = QGuiApplication::focusWindow();
+    if (window == nullptr) throw std::runtime_error("no window has the keyboard");
+    return *window;
 }
 
 QAction* Named(const QList<QAction*>& actions, const std::string& text) {
@@ -174,18 +188,13 @@ void DrivenProgram::ClickMenu(const std::string& menu, const std::string& entry)
 }
 
 void DrivenProgram::Key(int key, Qt::KeyboardModifiers modifiers) const {
-    QWindow* const window = QGuiApplication::focusWindow();
-    ASSERT_NE(window, nullptr) << "no window has the keyboard";
-    QTest::keyClick(window, static_cast<Qt::Key>(key), modifiers);
+    QTest::keyClick(&WindowWithKeyboard(), static_cast<Qt::Key>(key), modifiers);
     Settle();
 }
 
 void DrivenProgram::Type(const std::string& text) const {
-    for (const char letter : text) {
-        QWindow* const window = QGuiApplication::focusWindow();
-        ASSERT_NE(window, nullptr) << "no window has the keyboard";
-        QTest::keyClick(window, letter);
-    }
+    for (const char letter : text)
+        QTest::keyClick(&WindowWithKeyboard(), letter);
     Settle();
 }
 
@@ -201,9 +210,12 @@ void DrivenProgram::Choose(const std::string& name, const std::string& entry) co
     ASSERT_GE(wanted, 0) << entry;
     box.setFocus(Qt::TabFocusReason);
     Settle();
-    const QPointer<QComboBox> watched = &box;
-    while (watched && box.currentIndex() != wanted)
-        Key(box.currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
+    Key(Qt::Key_Down, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr) << name;
+    Key(Qt::Key_Home);
+    for (int i = 0; i < wanted; ++i)
+        Key(Qt::Key_Down);
+    Key(Qt::Key_Return);
 }
 
 void DrivenProgram::Mark(const std::string& name, const std::string& entry) const {
@@ -221,6 +233,7 @@ void DrivenProgram::Settle() {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+    GiveKeyboardBack();
 }
 
 std::string DrivenProgram::Keyboard() const {

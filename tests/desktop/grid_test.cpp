@@ -129,6 +129,7 @@ TEST_F(Grids, EscapeGivesUpAndF2OpensWhatStandsThere) {
     EXPECT_EQ(EditorText(), "");
     Key(Qt::Key_Escape);
 
+    ClickCell(4, 1);
     QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {},
                        Table().visualRect(IndexOf(4, 1)).center());
     EXPECT_EQ(EditorText(), Cell(4, 1));
@@ -252,7 +253,7 @@ TEST_F(Grids, ANameIsTakenAsItIsTyped) {
     Key(Qt::Key_Return);
     EXPECT_EQ(TheSimulation().Feeds[0].Name, "<b>Hay</b> & \"co\"");
     EXPECT_EQ(Model<ListBox>("frmFeeds.lstFeeds").List(0), "<b>Hay</b> & \"co\"");
-    EXPECT_EQ(Table().model()->index(0, 0).data().toString().toStdString(), "<b>Hay</b> & \"co\"");
+    EXPECT_EQ(IndexOf(0, 1).data().toString().toStdString(), "<b>Hay</b> & \"co\"");
 }
 
 TEST_F(Grids, CellsAreCopiedAsTextWithTabs) {

@@ -16,13 +16,6 @@ constexpr int kLookEvery = 2;  // milliseconds
 
 void Escape(QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }
 
-QWidget* DialogOnShow() {
-    if (QWidget* const popUp = QApplication::activePopupWidget()) {
-        return qobject_cast<QMenu*>(popUp);
-    }
-    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
-}
-
 bool OnlyInforms(const QWidget& dialog) {
     const auto* const box = qobject_cast<const QMessageBox*>(&dialog);
     return box != nullptr && box->standardButtons() == QMessageBox::Ok;
@@ -62,7 +55,7 @@ void Respondent::ChooseFile(const std::string& path) {
 }
 
 void Respondent::ChooseEntry(const std::string& text) {
-    Do([text](QWidget& dialog) {
+    DoInMenu([text](QWidget& dialog) {
         auto* const menu = qobject_cast<QMenu*>(&dialog);
         QAction* wanted = nullptr;
         for (QAction* const action : menu == nullptr ? QList<QAction*>{} : menu->actions()) {
@@ -77,12 +70,27 @@ void Respondent::ChooseEntry(const std::string& text) {
     });
 }
 
-void Respondent::Do(std::function<void(QWidget&)> answer) { answers_.push_back(std::move(answer)); }
+void Respondent::Do(std::function<void(QWidget&)> answer) {
+    answers_.push_back({std::move(answer), false});
+}
+
+void Respondent::DoInMenu(std::function<void(QWidget&)> answer) {
+    answers_.push_back({std::move(answer), true});
+}
 
 std::vector<Said> Respondent::TakeSaid() { return std::exchange(said_, {}); }
 
+// A menu that nobody has an answer for is one that the test itself has opened.
+QWidget* Respondent::Asking() const {
+    if (QWidget* const popUp = QApplication::activePopupWidget()) {
+        const bool wanted = !answers_.empty() && answers_.front().ToMenu;
+        return wanted ? qobject_cast<QMenu*>(popUp) : nullptr;
+    }
+    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+}
+
 void Respondent::Look() {
-    QWidget* const dialog = DialogOnShow();
+    QWidget* const dialog = Asking();
     if (busy_ || dialog == nullptr || !dialog->isVisible()) return;
     if (const auto* const box = qobject_cast<QMessageBox*>(dialog)) Note(*box);
     busy_ = true;
@@ -102,9 +110,9 @@ void Respondent::Answer(QWidget& dialog) {
         Escape(dialog);
         return;
     }
-    const auto answer = std::move(answers_.front());
+    const Reply answer = std::move(answers_.front());
     answers_.pop_front();
-    answer(dialog);
+    answer.Give(dialog);
 }
 
 void Respondent::Note(const QMessageBox& box) {

@@ -20,8 +20,9 @@ struct Said {
     QMessageBox::StandardButtons Buttons = QMessageBox::NoButton;
 };
 
-// Each dialog or pop-up menu that opens takes the next answer. A message that only informs needs
-// none; anything else without an answer is a failure, and is escaped from.
+// Each dialog that opens takes the next answer, and so does a menu, if that is for one. A message
+// that only informs needs none; any other dialog without an answer is a failure, and is escaped
+// from.
 class Respondent : public QObject {
   public:
     Respondent();
@@ -30,8 +31,9 @@ class Respondent : public QObject {
     void ChooseFile(const std::string& path);
     // The entry of a pop-up menu whose text, without its access key, that is.
     void ChooseEntry(const std::string& text);
-    // Anything else: looks at the dialog and must close it.
+    // Anything else: looks at the dialog or at the menu and must close it.
     void Do(std::function<void(QWidget&)> answer);
+    void DoInMenu(std::function<void(QWidget&)> answer);
 
     // What has been said since the last call.
     std::vector<Said> TakeSaid();
@@ -45,7 +47,14 @@ class Respondent : public QObject {
     void Note(const QMessageBox& box);
 
     QTimer timer_;
-    std::deque<std::function<void(QWidget&)>> answers_;
+    struct Reply {
+        std::function<void(QWidget&)> Give;
+        bool ToMenu = false;
+    };
+
+    QWidget* Asking() const;
+
+    std::deque<Reply> answers_;
     std::vector<Said> said_;
     bool busy_ = false;
 };

@@ -109,7 +109,7 @@ TEST_F(Views, AListWithOneChoiceFollowsMouseKeysAndProgram) {
 TEST_F(Views, AListWithSeveralMarksKeepsWhatTheProgramTakesBack) {
     OpenCow("Feeds");
     Click("frmFeeds.cmdAddFeed");
-    Mark("frmAddFeed.lstCategory(0)", "Lucerne hay, mid bloom");
+    Mark("frmAddFeed.lstCategory(0)", Model<ListBox>("frmAddFeed.lstCategory(0)").List(1));
     const auto all = [this] {
         int marks = 0;
         for (int i = 0; i < 9; ++i)
@@ -129,7 +129,11 @@ TEST_F(Views, AListWithSeveralMarksKeepsWhatTheProgramTakesBack) {
     Key(Qt::Key_Down);
     EXPECT_EQ(all(), 1);
     Key(Qt::Key_Space);
-    EXPECT_EQ(all(), 2);
+    EXPECT_FALSE(list.Selected(1));
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Space);
+    EXPECT_TRUE(list.Selected(2));
+    EXPECT_EQ(all(), 1);
 
     // A cow gets no calf feed: the mark is gone again when the message has been read.
     auto& calf = Model<ListBox>("frmAddFeed.lstCategory(8)");
@@ -164,14 +168,15 @@ TEST_F(Views, TabsShowTheirPagesAndKeepACalfFromOthers) {
     ClickTab("frmInputs.InputTabs", 1);
     EXPECT_TRUE(WidgetOf("frmInputs.cboAnimalType").isVisible());
     EXPECT_FALSE(WidgetOf("frmInputs.fraUnits").isVisible());
+    Asked.Press(QMessageBox::Ok);
     Choose("frmInputs.cboAnimalType", "Young Calf");
+    EXPECT_EQ(TheSimulation().AnimalType, "Young Calf");
+    Messages();
     EXPECT_TRUE(WidgetOf("frmInputs.txtCalfBodyWeight").isEnabled());
     auto& bar = *WidgetOf("frmInputs.InputTabs").findChild<QTabBar*>();
     Click(bar, bar.tabRect(2).center());
     EXPECT_EQ(bar.currentIndex(), 1);
     EXPECT_TRUE(WidgetOf("frmInputs.cboAnimalType").isVisible());
-    for (const Said& said : Messages())
-        EXPECT_EQ(said.Icon, QMessageBox::Critical) << said.Text;
 }
 
 TEST_F(Views, MenuAndToolbarShowMarksAndWhatCanBeChosen) {
@@ -201,7 +206,7 @@ TEST_F(Views, MenuAndToolbarShowMarksAndWhatCanBeChosen) {
 
 TEST_F(Views, FoldersAndFilesOfTheBatch) {
     std::filesystem::create_directory(InFolder("herd"));
-    std::filesystem::copy_file(SamplePath("Dry Cow"), InFolder("herd/Dry & <i>Cow</i>.tav"));
+    std::filesystem::copy_file(SamplePath("Dry Cow"), InFolder("herd/Dry & <b>Cow.tav"));
     OpenCow("Ration");
     ClickMenu("Go To...", "Batch File Utility");
     EXPECT_EQ(TheMessage().Title, "Welcome to the Batch File Utility!");
@@ -210,12 +215,13 @@ TEST_F(Views, FoldersAndFilesOfTheBatch) {
     EXPECT_EQ(files.count(), 1);
     QListWidgetItem* const herd = folders.findItems("herd", Qt::MatchExactly).value(0);
     ASSERT_NE(herd, nullptr);
+    Click(*folders.viewport(), folders.visualItemRect(herd).center());
     QTest::mouseDClick(folders.viewport(), Qt::LeftButton, {},
                        folders.visualItemRect(herd).center());
     Settle();
     ASSERT_EQ(files.count(), 1);
-    EXPECT_EQ(files.item(0)->text().toStdString(), "Dry & <i>Cow</i>.tav");
-    Mark("frmBatchOps.FileList", "Dry & <i>Cow</i>.tav");
+    EXPECT_EQ(files.item(0)->text().toStdString(), "Dry & <b>Cow.tav");
+    Mark("frmBatchOps.FileList", "Dry & <b>Cow.tav");
     Click("frmBatchOps.cmdAdd");
     EXPECT_EQ(Model<ListBox>("frmBatchOps.lstSelectedFiles").ListCount(), 1);
     // Back up with the keys.
@@ -224,7 +230,7 @@ TEST_F(Views, FoldersAndFilesOfTheBatch) {
     EXPECT_EQ(folders.currentItem()->text().toStdString(), "..");
     Key(Qt::Key_Return);
     EXPECT_EQ(files.count(), 1);
-    EXPECT_NE(files.item(0)->text().toStdString(), "Dry & <i>Cow</i>.tav");
+    EXPECT_NE(files.item(0)->text().toStdString(), "Dry & <b>Cow.tav");
     Key(Qt::Key_Escape);
     EXPECT_EQ(TheForms().Find("frmBatchOps"), nullptr);
 }
@@ -246,8 +252,8 @@ TEST_F(Views, NamesAreShownAsTheyStand) {
     const std::array<std::string, 4> names = {"<b>Hay</b> & \"straw\"", "Hay & straw", "&lt;Hay",
                                               "<img src=x>"};
     OpenCow("Feeds");
-    auto& grid = Model<Grid>("frmFeeds.grdFeedData");
     for (const std::string& name : names) {
+        auto& grid = Model<Grid>("frmFeeds.grdFeedData");
         TheDesktop().Perform([&] { grid.UserEdit(0, 1, name); });
         const QString shown = QString::fromStdString(name);
         auto& feeds = Widget<QListWidget>("frmFeeds.lstFeeds");

@@ -1,4 +1,5 @@
 #include "forms/sample_form.h"
+#include "support/temporary_folder.h"
 
 #include <filesystem>
 #include <fstream>
@@ -27,16 +28,15 @@ class FileForm : public SampleForm {
 class FileListsTest : public FormsTest {
   protected:
     FileListsTest() {
-        fs::remove_all(Root);
         fs::create_directories(Root / "herd");
         fs::create_directories(Root / "folder.tav");
         for (const char* const name : {"b.tav", "A.TAV", "notes.txt", "c.tav.bak"}) {
             std::ofstream(Root / name) << "x";
         }
     }
-    ~FileListsTest() override { fs::remove_all(Root); }
 
-    fs::path Root = fs::temp_directory_path() / "tav_file_lists_test";
+    TemporaryFolder Folder;
+    fs::path Root = Folder.Path("root");
     FileForm& Form = Open<FileForm>();
 };
 
