@@ -54,9 +54,8 @@ void Name(const Form& form, const FormView& view, const Control& control, QWidge
     if (const Label* const label = LabelOf(form, control)) {
         widget.setAccessibleName(WithoutAccessKey(label->Caption));
         ControlView* const shown = view.ViewOf(*label);
-        if (label->Caption.find('&') != std::string::npos && shown != nullptr) {
-            static_cast<QLabel&>(shown->Widget()).setBuddy(&widget);
-        }
+        auto* const text = shown == nullptr ? nullptr : qobject_cast<QLabel*>(&shown->Widget());
+        if (text != nullptr && text->buddy() == nullptr) text->setBuddy(&widget);
         return;
     }
     if (const auto* const frame = dynamic_cast<const Frame*>(control.Container())) {

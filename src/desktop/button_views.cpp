@@ -1,10 +1,12 @@
 #include "desktop/button_views.h"
 
 #include "desktop/text.h"
+#include "forms/form.h"
 
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 namespace tav {
 
@@ -38,6 +40,17 @@ void OptionView::SyncContent() {
     Button().setAutoExclusive(false);
     Button().setChecked(model_.Value());
     Button().setAutoExclusive(true);
+    Button().setFocusPolicy(IsDoorToGroup() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+bool OptionView::IsDoorToGroup() const {
+    if (model_.Value()) return true;
+    const std::vector<Control*>& all = model_.Owner().Controls();
+    return std::none_of(all.begin(), all.end(), [this](const Control* control) {
+        return control->Kind() == ControlKind::OptionButton &&
+               control->Container() == model_.Container() &&
+               static_cast<const OptionButton*>(control)->Value();
+    });
 }
 
 CheckView::CheckView(CheckBox& model, QWidget& parent, FormView& form)

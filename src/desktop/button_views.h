@@ -33,6 +33,10 @@ class OptionView : public ButtonView {
     void SyncContent() override;
 
   private:
+    // Whether the tab key leads to it: to the one that is on, or to any where none is. From there
+    // the arrow keys lead to the others.
+    bool IsDoorToGroup() const;
+
     OptionButton& model_;
 };
 

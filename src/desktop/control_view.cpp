@@ -124,8 +124,10 @@ bool ControlView::KeyPressed(const QKeyEvent& event) {
     // An access key is Qt's matter, and so is moving on to the next control.
     if (key->Alt || key->Key == "Tab") return false;
     const bool consumed = ConsumesKey(event);
+    const bool had = FocusWidget() != nullptr && FocusWidget()->hasFocus();
     Perform([this, &key] { model_.UserKey(*key); });
-    return consumed;
+    // A key that has moved the keyboard on is not meant for where it has gone.
+    return consumed || (had && !FocusWidget()->hasFocus());
 }
 
 bool ControlView::EntersFor(Qt::FocusReason reason) const {

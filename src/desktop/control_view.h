@@ -74,7 +74,7 @@ class ControlView : public QObject {
 
   private:
     bool MousePressed(Qt::MouseButton button);
-    bool KeyPressed(const QKeyEvent& key);
+    bool KeyPressed(const QKeyEvent& event);
     void FocusTaken(Qt::FocusReason reason);
 
     Control& model_;

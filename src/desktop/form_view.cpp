@@ -83,8 +83,10 @@ void FormView::SyncFocus() {
         }
         return;
     }
+    // Taken away from all controls: the next key is the form's own.
     const QWidget* const keyboard = QApplication::focusWidget();
-    if (moved && pane_->isVisible() && (keyboard == nullptr || !keyboard->isVisible())) {
+    const bool here = keyboard == nullptr || keyboard->window() == Window();
+    if (moved && here && pane_->isVisible()) {
         surface_->setFocus(Qt::OtherFocusReason);
     }
 }
@@ -153,7 +155,8 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
         Perform([this, right] { right ? form_.UserRightClick() : form_.UserClick(); });
         return true;
     }
-    if (watched == surface_ && event->type() == QEvent::KeyPress) {
+    // What comes up from a control has been that control's.
+    if (watched == surface_ && event->type() == QEvent::KeyPress && surface_->hasFocus()) {
         const auto* const press = static_cast<QKeyEvent*>(event);
         const auto key = KeyOf(*press);
         if (!key || key->Alt) return false;

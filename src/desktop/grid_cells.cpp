@@ -59,13 +59,13 @@ int GridCells::columnCount(const QModelIndex& parent) const {
 
 // Numbers stand under each other whatever the column says of its texts.
 Qt::Alignment GridCells::AlignmentOf(int gridRow, int gridCol) const {
-    const std::string& text = shown_.at(static_cast<std::size_t>(gridRow * cols_ + gridCol));
+    const QString text = TextAt(gridRow, gridCol);
     switch (grid_.ColAlignment(gridCol)) {
         case Alignment::Right: return Qt::AlignRight | Qt::AlignVCenter;
         case Alignment::Center: return Qt::AlignHCenter | Qt::AlignVCenter;
         case Alignment::Left: break;
     }
-    return (IsNumeric(text) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+    return (IsNumeric(text.toStdString()) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
 QVariant GridCells::data(const QModelIndex& index, int role) const {

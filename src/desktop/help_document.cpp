@@ -101,8 +101,9 @@ void StyleTables(QTextFrame& frame, const QPalette& palette) {
 
 QColor ReadableLink(const QPalette& palette, const QColor& background, const QColor& text) {
     const QColor link = palette.color(QPalette::Link);
-    for (double share = 0; share < 1; share += 0.1) {
-        const QColor colour = Mixed(link, text, share);
+    constexpr int kSteps = 10;
+    for (int step = 0; step < kSteps; ++step) {
+        const QColor colour = Mixed(link, text, static_cast<double>(step) / kSteps);
         if (Contrast(colour, background) >= kReadable) return colour;
     }
     return text;

@@ -62,7 +62,7 @@ void HelpPanel::Filter(const QString& text) {
     if (best != nullptr) list_->scrollToItem(best);
 }
 
-void HelpPanel::Choose(const QListWidgetItem* item) {
+void HelpPanel::Choose(const QListWidgetItem* item) const {
     if (item == nullptr || item->flags() == Qt::NoItemFlags || !Chosen) return;
     Chosen({item->data(kPageRole).toString(), item->data(kSectionRole).toString()});
 }

@@ -34,7 +34,7 @@ class HelpPanel : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void Choose(const QListWidgetItem* item);
+    void Choose(const QListWidgetItem* item) const;
 
     QLineEdit* const entry_;
     QListWidget* const list_;

@@ -13,8 +13,8 @@ constexpr int kWholeSection = 10;
 
 // What a reader sees of a page: without the targets of links and the marks of tables and stress.
 QString Plain(QString markdown) {
-    static const QRegularExpression kLinkTarget("\\]\\([^)]*\\)");
-    static const QRegularExpression kMarks("[|*`\\[\\]#]+|-{3,}");
+    static const QRegularExpression kLinkTarget(R"(\]\([^)]*\))");
+    static const QRegularExpression kMarks(R"([|*`\[\]#]+|-{3,})");
     return markdown.remove(kLinkTarget).replace(kMarks, " ").toLower();
 }
 

@@ -18,6 +18,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace tav {
@@ -150,9 +151,9 @@ void HelpViewer::TieKeys() {
     tie(Qt::ALT | Qt::Key_Left, [this] { GoBack(); });
     tie(Qt::ALT | Qt::Key_Right, [this] { GoForward(); });
     tie(Qt::ALT | Qt::Key_Home, [this] { Open({file_.FirstPage(), {}}); });
-    constexpr int kTabKeys[] = {Qt::Key_C, Qt::Key_D, Qt::Key_S};
+    constexpr std::array kTabKeys = {Qt::Key_C, Qt::Key_D, Qt::Key_S};
     for (int tab = 0; tab < tabs_->count(); ++tab) {
-        const QKeySequence keys(Qt::ALT | kTabKeys[tab]);
+        const QKeySequence keys(Qt::ALT | kTabKeys.at(static_cast<std::size_t>(tab)));
         tie(keys, turnTo(tab));
         tabs_->setTabToolTip(tab, keys.toString(QKeySequence::NativeText));
     }

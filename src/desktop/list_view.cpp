@@ -69,6 +69,7 @@ void ListView::SelectionChanged() {
 // next.
 void ListView::TakeMarks() {
     std::vector<bool> marks;
+    marks.reserve(static_cast<std::size_t>(list_.count()));
     for (int i = 0; i < list_.count(); ++i)
         marks.push_back(list_.item(i)->isSelected());
     Perform([this, &marks] {

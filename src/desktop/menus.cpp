@@ -32,7 +32,12 @@ constexpr std::array kShortcuts = {
 void GiveShortcut(QAction& action, std::string_view item) {
     const auto* const found = std::find_if(kShortcuts.begin(), kShortcuts.end(),
                                            [&](const Shortcut& key) { return key.Item == item; });
-    if (found != kShortcuts.end()) action.setShortcut(QKeySequence(found->Key));
+    if (found == kShortcuts.end()) return;
+    action.setShortcut(QKeySequence(found->Key));
+    // Not every desktop has a key for this one.
+    if (found->Key == QKeySequence::SaveAs && action.shortcut().isEmpty()) {
+        action.setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    }
 }
 
 }  // namespace

@@ -137,7 +137,7 @@ void PageArea::ScrollToPage() {
     }
 }
 
-void PageArea::TurnTo(int page) {
+void PageArea::TurnTo(int page) const {
     if (page >= 1 && page <= PageCount() && page != page_ && Turn) Turn(page);
 }
 

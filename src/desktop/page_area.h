@@ -34,7 +34,7 @@ class PageArea : public QAbstractScrollArea {
     QString ZoomText() const;            // "75%", "Thumbnails"
 
     // What the user does; a page beyond the first or last is not asked for.
-    void TurnTo(int page);
+    void TurnTo(int page) const;
     void TurnBy(int direction);
     void ZoomBy(int steps);
     void ZoomAsSet();

@@ -131,7 +131,7 @@ bool PrintPages(QPrinter& printer, const ReportDocument& document, const std::ve
     return painter.end() && printer.printerState() != QPrinter::Error;
 }
 
-void PrintReport(std::shared_ptr<const ReportDocument> document) {
+void PrintReport(const std::shared_ptr<const ReportDocument>& document) {
     if (!document || document->Pages.empty()) return;
     const ArrowPointer arrow;
     if (PrintsToFile()) {

@@ -14,7 +14,7 @@ namespace tav {
 // Lets the user choose printer, pages and copies and prints the document, or asks for the place of
 // a PDF file where there is no printer or the user has chosen the file. A failure is shown to the
 // user; raises nothing.
-void PrintReport(std::shared_ptr<const ReportDocument> document);
+void PrintReport(const std::shared_ptr<const ReportDocument>& document);
 
 // Prints those pages, from 1, each in its own orientation and in its own size, smaller only where
 // the paper is. False where the printer can't be used.

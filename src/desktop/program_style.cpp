@@ -42,7 +42,7 @@ ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* returned) const {
     switch (hint) {
-        case SH_DialogButtonBox_ButtonsHaveIcons: return 0;
+        case SH_DialogButtonBox_ButtonsHaveIcons:
         case SH_EtchDisabledText: return 0;
         default: return QProxyStyle::styleHint(hint, option, widget, returned);
     }

@@ -21,6 +21,13 @@ std::unique_ptr<ControlView> Make(Control& control, QWidget& parent, FormView& f
     return std::make_unique<View>(static_cast<Model&>(control), parent, form);
 }
 
+// It has no label beside it.
+std::unique_ptr<ControlView> MakeFileList(FileList& files, QWidget& parent, FormView& form) {
+    auto view = std::make_unique<ListView>(files, parent, form);
+    view->Widget().setAccessibleName(QStringLiteral("Files"));
+    return view;
+}
+
 }  // namespace
 
 std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget& parent, FormView& form) {
@@ -48,7 +55,8 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget& parent, 
         case ControlKind::DriveList: return Make<DriveListView, DriveList>(control, parent, form);
         case ControlKind::FolderList:
             return Make<FolderListView, FolderList>(control, parent, form);
-        case ControlKind::FileList: return Make<ListView, FileList>(control, parent, form);
+        case ControlKind::FileList:
+            return MakeFileList(static_cast<FileList&>(control), parent, form);
         case ControlKind::DocumentPane:
             return Make<DocumentView, DocumentPane>(control, parent, form);
         case ControlKind::Toolbar:

@@ -19,7 +19,7 @@ constexpr int kGap = 6;         // pixels between the point and the window
 constexpr int kEdge = 4;        // and between the window and the edges of the screen
 
 QString LinkText(const QString& caption, const QColor& colour) {
-    return QString("<a href=\"more\" style=\"color:%1\">%2</a>").arg(colour.name(), caption);
+    return QString(R"(<a href="more" style="color:%1">%2</a>)").arg(colour.name(), caption);
 }
 
 }  // namespace
