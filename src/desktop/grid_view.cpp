@@ -144,7 +144,7 @@ void GridView::FitColumns() {
         return;
     }
     const int names = std::max(Pixels(model_.ColWidth(0)), ContentWidth(0) + kHeaderPadding);
-    const int most = std::max(room - used, room / 3);
+    const int most = std::max(room - used, room / 2);
     table_.verticalHeader()->setFixedWidth(used < room ? most : std::min(names, most));
 }
 

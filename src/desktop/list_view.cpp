@@ -31,7 +31,9 @@ ListView::ListView(ListBox& model, QListWidget* list, FormView& form)
                                              : QAbstractItemView::SingleSelection);
     list->setItemDelegate(new RoomyLines(list));
     list->setUniformItemSizes(true);
-    list->setTextElideMode(Qt::ElideRight);
+    // A line too long for the list loses its middle; the pointer shows all of it.
+    list->setTextElideMode(Qt::ElideMiddle);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Watch(*list);
     list->viewport()->installEventFilter(this);
     QObject::connect(list, &QListWidget::itemSelectionChanged, [this] { SelectionChanged(); });

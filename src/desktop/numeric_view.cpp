@@ -1,7 +1,9 @@
 #include "desktop/numeric_view.h"
 
 #include "desktop/form_view.h"
+#include "desktop/pixels.h"
 #include "desktop/text.h"
+#include "desktop/text_view.h"
 #include "desktop/theme.h"
 
 #include <QApplication>
@@ -43,6 +45,10 @@ bool NumericView::eventFilter(QObject* watched, QEvent* event) {
         });
     }
     return done;
+}
+
+std::optional<int> NumericView::OwnHeight() const {
+    return LineHeight(edit_, Pixels(model_.Height));
 }
 
 QString NumericView::Shown() const {

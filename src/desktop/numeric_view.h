@@ -19,6 +19,7 @@ class NumericView : public ControlView {
 
   protected:
     void SyncContent() override;
+    std::optional<int> OwnHeight() const override;
 
   private:
     NumericView(NumericTextBox& model, QLineEdit* edit, FormView& form);

@@ -1,5 +1,6 @@
 #include "desktop/text_view.h"
 
+#include "desktop/pixels.h"
 #include "desktop/text.h"
 
 #include <QSignalBlocker>
@@ -9,6 +10,11 @@ namespace tav {
 std::unique_ptr<ControlView> MakeTextView(TextBox& model, QWidget& parent, FormView& form) {
     if (model.MultiLine) return std::make_unique<MultiLineTextView>(model, parent, form);
     return std::make_unique<TextView>(model, parent, form);
+}
+
+int LineHeight(const QLineEdit& edit, int designed) {
+    constexpr int kFrame = 4;
+    return std::max(designed, QFontMetrics(edit.font()).height() + kFrame);
 }
 
 TextView::TextView(TextBox& model, QWidget& parent, FormView& form)
@@ -21,6 +27,8 @@ TextView::TextView(TextBox& model, QLineEdit* edit, FormView& form)
         Perform([this, &text] { model_.UserType(FromQt(text)); });
     });
 }
+
+std::optional<int> TextView::OwnHeight() const { return LineHeight(edit_, Pixels(model_.Height)); }
 
 void TextView::SyncContent() {
     edit_.setReadOnly(model_.ReadOnly);

@@ -10,6 +10,9 @@
 
 namespace tav {
 
+// The height that a box of one line needs: never less than its letters.
+int LineHeight(const QLineEdit& edit, int designed);
+
 std::unique_ptr<ControlView> MakeTextView(TextBox& model, QWidget& parent, FormView& form);
 
 class TextView : public ControlView {
@@ -19,6 +22,7 @@ class TextView : public ControlView {
   protected:
     void SyncContent() override;
     bool PassesClicks() const override { return static_cast<bool>(model_.Click); }
+    std::optional<int> OwnHeight() const override;
 
   private:
     TextView(TextBox& model, QLineEdit* edit, FormView& form);
