@@ -123,8 +123,8 @@ void ReportGrid::FitFont() {
 
 Twips ReportGrid::Height() const {
     Twips height = 0;
-    for (std::size_t row = 0; row < rows_.size(); ++row) {
-        const bool empty = std::all_of(rows_[row].begin(), rows_[row].end(),
+    for (const auto& row : rows_) {
+        const bool empty = std::all_of(row.begin(), row.end(),
                                        [](const std::string& cell) { return cell.empty(); });
         height += TableRowHeight(empty ? 0 : 1, writer_.Sink().FontSize(), border_);
     }
