@@ -77,7 +77,16 @@ void ControlView::Perform(const std::function<void()>& action) {
     if (form_.IsLive()) TheDesktop().Perform(action);
 }
 
-void ControlView::Watch(QWidget& widget) { widget.installEventFilter(this); }
+void ControlView::Watch(QWidget& widget) {
+    std::erase_if(watched_, [](const QPointer<QWidget>& gone) { return gone.isNull(); });
+    watched_.emplace_back(&widget);
+    widget.installEventFilter(this);
+}
+
+void ControlView::StopListening() {
+    for (const QPointer<QWidget>& widget : watched_)
+        if (widget) widget->removeEventFilter(this);
+}
 
 bool ControlView::HasRightClick() const { return model_.MouseUp || model_.MouseDown; }
 

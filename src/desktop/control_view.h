@@ -9,9 +9,11 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace tav {
 
@@ -40,6 +42,9 @@ class ControlView : public QObject {
 
     // What the view itself offers in the control's pop-up menu.
     virtual QList<QAction*> OwnActions() { return {}; }
+
+    // Listens to nothing any more. Stands before the widgets are taken away.
+    void StopListening();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -80,6 +85,7 @@ class ControlView : public QObject {
     Control& model_;
     QWidget& widget_;
     FormView& form_;
+    std::vector<QPointer<QWidget>> watched_;
 };
 
 // A key as the controls know it; nothing for one that only goes with others, such as Shift.

@@ -37,9 +37,16 @@ FormView::FormView(Form& form, QWidget* pane, QWidget* surface)
 }
 
 // The widgets first: a view must be there for as long as its widget can send anything.
-FormView::~FormView() { delete pane_; }
+FormView::~FormView() {
+    for (const auto& view : views_)
+        view->StopListening();
+    surface_->removeEventFilter(this);
+    pane_->removeEventFilter(this);
+    delete pane_;
+}
 
 bool FormView::IsLive() const {
+    if (retired_) return false;
     const std::vector<Form*> loaded = TheForms().Loaded();
     return std::find(loaded.begin(), loaded.end(), &form_) != loaded.end();
 }
@@ -124,6 +131,7 @@ bool FormView::IsTyping() const {
 }
 
 void FormView::Retire() {
+    retired_ = true;
     if (pane_) pane_->hide();
     deleteLater();
 }

@@ -20,7 +20,8 @@ class FormView : public QObject {
     ~FormView() override;
 
     Form& TheForm() const { return form_; }
-    // Whether the form is still loaded. One that isn't must not be touched.
+    // Whether the form is still loaded. One that isn't must not be touched, and the widgets may be
+    // on their way out.
     bool IsLive() const;
 
     // Shows the form as it is now.
@@ -66,6 +67,7 @@ class FormView : public QObject {
     std::vector<std::unique_ptr<ControlView>> views_;
     std::map<const Control*, ControlView*> viewOf_;
     const Control* focusShown_ = nullptr;
+    bool retired_ = false;
 };
 
 }  // namespace tav

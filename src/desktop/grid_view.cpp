@@ -1,5 +1,6 @@
 #include "desktop/grid_view.h"
 
+#include "desktop/form_view.h"
 #include "desktop/grid_clipboard.h"
 #include "desktop/pixels.h"
 #include "desktop/text.h"
@@ -34,7 +35,7 @@ GridView::GridView(Grid& model, QTableView* table, FormView& form)
     SetUpTable();
     AddActions();
     Watch(*table);
-    table->viewport()->installEventFilter(this);
+    Watch(*table->viewport());
     QObject::connect(table->selectionModel(), &QItemSelectionModel::currentChanged,
                      [this](const QModelIndex& to) { CursorMoved(to); });
     for (const QScrollBar* const bar : {table->verticalScrollBar(), table->horizontalScrollBar()}) {
@@ -168,6 +169,7 @@ void GridView::EnterFirstCell() {
 }
 
 bool GridView::eventFilter(QObject* watched, QEvent* event) {
+    if (!TheForm().IsLive()) return false;
     if (editor_ && watched == editor_ && EditorEvent(*event)) return true;
     if (watched == editor_) return false;
     if ((watched == &table_ || watched == table_.viewport()) && TableEvent(*event)) return true;
@@ -270,7 +272,7 @@ void GridView::ShowEditor() {
     editor_->setFont(table_.font());
     editor_->setAccessibleName(table_.accessibleName());
     editor_->setGeometry(table_.visualRect(table_.currentIndex()));
-    editor_->installEventFilter(this);
+    Watch(*editor_);
     editor_->show();
     editor_->setFocus();
     if (auto* const box = qobject_cast<QComboBox*>(editor_.data())) box->showPopup();

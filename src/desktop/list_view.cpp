@@ -1,5 +1,6 @@
 #include "desktop/list_view.h"
 
+#include "desktop/form_view.h"
 #include "desktop/text.h"
 
 #include <QMouseEvent>
@@ -35,7 +36,7 @@ ListView::ListView(ListBox& model, QListWidget* list, FormView& form)
     list->setTextElideMode(Qt::ElideMiddle);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Watch(*list);
-    list->viewport()->installEventFilter(this);
+    Watch(*list->viewport());
     QObject::connect(list, &QListWidget::itemSelectionChanged, [this] { SelectionChanged(); });
 }
 
@@ -43,6 +44,7 @@ int ListView::EntryUnder(const QPoint& place) const { return list_.row(list_.ite
 
 // A click on the entry that is chosen already changes no selection, and counts all the same.
 bool ListView::eventFilter(QObject* watched, QEvent* event) {
+    if (!TheForm().IsLive()) return false;
     if (watched != list_.viewport()) return ControlView::eventFilter(watched, event);
     if (event->type() != QEvent::MouseButtonPress) return false;
     const auto* const press = static_cast<QMouseEvent*>(event);

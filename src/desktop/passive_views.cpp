@@ -1,6 +1,7 @@
 #include "desktop/passive_views.h"
 
 #include "desktop/pictures.h"
+#include "desktop/pixels.h"
 #include "desktop/text.h"
 
 namespace tav {
@@ -35,6 +36,14 @@ LabelView::LabelView(Label& model, QLabel* label, FormView& form)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     Watch(*label);
+}
+
+// No line is lower than its letters, on the smallest display either.
+std::optional<int> LabelView::OwnHeight() const {
+    QFont font = label_.font();
+    font.setPixelSize(FontPixels(model_.FontSize));
+    const int letters = QFontMetrics(font).lineSpacing();
+    return letters > Pixels(model_.Height) ? std::optional<int>(letters) : std::nullopt;
 }
 
 // A single line stands in the middle, level with the text of the field beside it.

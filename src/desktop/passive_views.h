@@ -17,6 +17,7 @@ class LabelView : public ControlView {
 
   protected:
     void SyncContent() override;
+    std::optional<int> OwnHeight() const override;
     bool PassesClicks() const override { return true; }
 
   private:

@@ -1,5 +1,6 @@
 #include "desktop/text_view.h"
 
+#include "desktop/form_view.h"
 #include "desktop/pixels.h"
 #include "desktop/text.h"
 
@@ -44,7 +45,7 @@ MultiLineTextView::MultiLineTextView(TextBox& model, QPlainTextEdit* edit, FormV
     edit->setTabChangesFocus(true);
     Watch(*edit);
     // Clicks reach the area in which the text stands.
-    edit->viewport()->installEventFilter(this);
+    Watch(*edit->viewport());
     QObject::connect(edit, &QPlainTextEdit::textChanged, [this] {
         // A change of letters is told as one of the text as well.
         const QString shown = edit_.toPlainText();
@@ -60,6 +61,7 @@ bool MultiLineTextView::ConsumesKey(const QKeyEvent& key) const {
 }
 
 bool MultiLineTextView::eventFilter(QObject* watched, QEvent* event) {
+    if (!TheForm().IsLive()) return false;
     if (watched != edit_.viewport() || event->type() == QEvent::MouseButtonPress) {
         return ControlView::eventFilter(watched, event);
     }

@@ -19,7 +19,8 @@ bool IsNumberCharacter(char c) {
     return (c >= '0' && c <= '9') || c == '.' || c == '-' || c == DecimalSeparator();
 }
 
-// Whether that can be the beginning of a number with its unit, as it comes from the keys one by one.
+// Whether that can be the beginning of a number with its unit, as it comes from the keys one by
+// one.
 bool MayBecomeNumber(std::string_view text, std::string_view unit) {
     const auto end = std::find_if_not(text.begin(), text.end(), IsNumberCharacter);
     return unit.starts_with(Trimmed({end, text.end()}));

@@ -21,6 +21,8 @@ namespace fs = std::filesystem;
 
 QString Plain(QString text) { return text.remove(QLatin1Char('&')); }
 
+constexpr int kButtonDown = 150;  // milliseconds
+
 // Where a person aims: at the text of a button, not at the empty end of its line.
 QPoint MarkOf(const QWidget& widget) {
     const bool marked = widget.inherits("QRadioButton") || widget.inherits("QCheckBox");
@@ -29,9 +31,12 @@ QPoint MarkOf(const QWidget& widget) {
 
 // A window manager gives the keyboard back to the window under one that closes; here there is none.
 void GiveKeyboardBack() {
-    if (QGuiApplication::focusWindow() != nullptr) return;
+    const QWindow* const window = QGuiApplication::focusWindow();
+    if (window != nullptr && window->isVisible()) return;
     QWidget* const modal = QApplication::activeModalWidget();
-    QWidget* const front = modal != nullptr ? modal : TheDesktop().FrontWindow();
+    const Form* const active = TheForms().Active();
+    FormView* const view = active == nullptr ? nullptr : TheDesktop().ViewOf(*active);
+    QWidget* const front = modal != nullptr || view == nullptr ? modal : view->Window();
     if (front != nullptr && front->isVisible()) front->activateWindow();
     QCoreApplication::processEvents();
 }
@@ -189,6 +194,8 @@ void DrivenProgram::ClickMenu(const std::string& menu, const std::string& entry)
 
 void DrivenProgram::Key(int key, Qt::KeyboardModifiers modifiers) const {
     QTest::keyClick(&WindowWithKeyboard(), static_cast<Qt::Key>(key), modifiers);
+    // A button that is pressed by its access key stays down for a moment, so that it is seen.
+    if (modifiers.testFlag(Qt::AltModifier)) QTest::qWait(kButtonDown);
     Settle();
 }
 

@@ -12,6 +12,7 @@
 #include <QAbstractScrollArea>
 #include <QMainWindow>
 #include <QMenu>
+#include <QTimer>
 #include <string>
 
 #include <QtTest/QTest>

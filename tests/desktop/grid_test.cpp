@@ -1,66 +1,12 @@
-// A spreadsheet's habits in the grids, with mouse, keys and clipboard.
-#include "core/number_text.h"
-#include "desktop/form_view.h"
-#include "driven_program.h"
+// A spreadsheet's habits in the grids, with mouse and keys.
+#include "grid_fixture.h"
 
-#include <QClipboard>
 #include <QComboBox>
-#include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QScrollBar>
-#include <QTableView>
 
 namespace tav {
 namespace {
-
-class Grids : public DrivenProgram {
-  protected:
-    ~Grids() override { SetDecimalSeparator('.'); }
-
-    void OpenRation() {
-        OpenCow("Ration");
-        name_ = "frmRation.grdRation";
-    }
-    void OpenFeed() {
-        OpenCow("Feeds");
-        name_ = "frmFeeds.grdFeedData";
-    }
-    QTableView& Table() const { return Widget<QTableView>(name_); }
-    Grid& TheGrid() const { return Model<Grid>(name_); }
-    std::string Cell(int row, int col) const { return TheGrid().TextMatrix(row, col); }
-    QWidget* Editor() const {
-        for (QWidget* const child :
-             Table().viewport()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-            if (child->isVisible()) return child;
-        }
-        return nullptr;
-    }
-    std::string EditorText() const {
-        const auto* const edit = qobject_cast<QLineEdit*>(Editor());
-        return edit == nullptr ? "no editor" : edit->text().toStdString();
-    }
-    QModelIndex IndexOf(int row, int col) const {
-        return Table().model()->index(row - TheGrid().FixedRows, col - TheGrid().FixedCols);
-    }
-    // The grid's cell, counted with its fixed rows and columns.
-    void ClickCell(int row, int col) const {
-        Table().scrollTo(IndexOf(row, col));
-        Click(*Table().viewport(), Table().visualRect(IndexOf(row, col)).center());
-    }
-    void Paste(const char* text) {
-        QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
-        Key(Qt::Key_V, Qt::ControlModifier);
-    }
-    static std::string Copied() { return QGuiApplication::clipboard()->text().toStdString(); }
-    std::pair<int, int> Cursor() const { return {TheGrid().Row(), TheGrid().Col()}; }
-
-  private:
-    std::string name_;
-};
-
-using Place = std::pair<int, int>;
 
 TEST_F(Grids, TypingOpensACellAndEnterTakesItDown) {
     OpenRation();
@@ -254,125 +200,6 @@ TEST_F(Grids, ANameIsTakenAsItIsTyped) {
     EXPECT_EQ(TheSimulation().Feeds[0].Name, "<b>Hay</b> & \"co\"");
     EXPECT_EQ(Model<ListBox>("frmFeeds.lstFeeds").List(0), "<b>Hay</b> & \"co\"");
     EXPECT_EQ(IndexOf(0, 1).data().toString().toStdString(), "<b>Hay</b> & \"co\"");
-}
-
-TEST_F(Grids, CellsAreCopiedAsTextWithTabs) {
-    OpenRation();
-    ClickCell(2, 1);
-    Key(Qt::Key_Right, Qt::ShiftModifier);
-    Key(Qt::Key_Down, Qt::ShiftModifier);
-    Key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(Copied(),
-              Cell(2, 1) + "\t" + Cell(2, 2) + "\n" + Cell(3, 1) + "\t" + Cell(3, 2) + "\n");
-    Key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(Copied(), "\t" + Cell(0, 1) + "\t" + Cell(0, 2) + "\n" + Cell(2, 0) + "\t" +
-                            Cell(2, 1) + "\t" + Cell(2, 2) + "\n" + Cell(3, 0) + "\t" + Cell(3, 1) +
-                            "\t" + Cell(3, 2) + "\n");
-    // By mouse the same is offered.
-    Asked.ChooseEntry("Copy");
-    ClickCell(4, 1);
-    QContextMenuEvent ask(QContextMenuEvent::Mouse, Table().visualRect(IndexOf(4, 1)).center(),
-                          Table().viewport()->mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(Table().viewport(), &ask);
-    Settle();
-    EXPECT_EQ(Copied(), Cell(4, 1) + "\n");
-}
-
-TEST_F(Grids, ABlockIsPastedAndWhatWasRefusedIsListedOnce) {
-    OpenRation();
-    ClickCell(2, 1);
-    Paste("8.5\r\n4.25\r\nmuch\r\n-1\r\n0.75\r\n");
-    EXPECT_EQ(TheSimulation().Feeds[0].Qty.Value(), 8.5);
-    EXPECT_EQ(TheSimulation().Feeds[1].Qty.Value(), 4.25);
-    EXPECT_EQ(TheSimulation().Feeds[4].Qty.Value(), 0.75);
-    const Said said = TheMessage();
-    EXPECT_EQ(said.Title, "Paste");
-    EXPECT_EQ(said.Format, Qt::PlainText);
-    EXPECT_NE(said.Text.find("2 cells were not taken"), std::string::npos) << said.Text;
-    EXPECT_NE(said.Text.find("much"), std::string::npos);
-    EXPECT_NE(said.Text.find("This value cannot be negative."), std::string::npos);
-    EXPECT_EQ(Editor(), nullptr);
-
-    // Beyond the last cell.
-    ClickCell(TheGrid().Rows() - 1, 2);
-    Paste("1\t2\n3\t4");
-    EXPECT_NE(TheMessage().Text.find("4 cells were not taken"), std::string::npos);
-
-    // What the program has to say is heard again afterwards.
-    ClickCell(2, 1);
-    Type("x");
-    Key(Qt::Key_Return);
-    EXPECT_EQ(TheMessage().Title, "Error");
-    Key(Qt::Key_Escape);
-}
-
-TEST_F(Grids, WhatIsCopiedHereIsPastedHereAsItWas) {
-    OpenFeed();
-    const std::string name = "\"Best\" hay";
-    TheDesktop().Perform([&] { TheGrid().UserEdit(0, 1, name); });
-    ClickCell(0, 1);
-    Key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(Copied(), "\"\"\"Best\"\" hay\"\n");
-    const std::string copied = Copied();
-    Mark("frmFeeds.lstFeeds", Model<ListBox>("frmFeeds.lstFeeds").List(1));
-    TheDesktop().Perform([&] { TheSimulation().Feeds[0].Name = "other"; });
-    ClickCell(0, 1);
-    Paste(copied.c_str());
-    EXPECT_EQ(Cell(0, 1), name);
-    Messages();
-
-    // A quote inside is no sign, as in a bale of six inches.
-    TheDesktop().Perform([&] { TheSimulation().Feeds[1].Name = "other"; });
-    Paste("6\" bale\n");
-    EXPECT_EQ(Cell(0, 1), "6\" bale");
-    Messages();
-}
-
-TEST_F(Grids, TheCommaIsADecimalSignAndNothingIsRescaled) {
-    SetDecimalSeparator(',');
-    OpenRation();
-    EXPECT_EQ(Cell(2, 1), "8,200");
-    ClickCell(2, 1);
-    Type("8,75");
-    Key(Qt::Key_Return);
-    EXPECT_EQ(TheSimulation().Feeds[0].Qty.Value(), 8.75);
-    EXPECT_EQ(Cell(2, 1), "8,750");
-    Type("4.125");
-    Key(Qt::Key_Return);
-    EXPECT_EQ(TheSimulation().Feeds[1].Qty.Value(), 4.125);
-    ClickCell(2, 1);
-    Paste("1.234,5\n2,5\n");
-    EXPECT_NE(TheMessage().Text.find("1.234,5"), std::string::npos);
-    EXPECT_EQ(TheSimulation().Feeds[0].Qty.Value(), 8.75);
-    EXPECT_EQ(TheSimulation().Feeds[1].Qty.Value(), 2.5);
-    // Opened and closed without a change, a cell keeps its value.
-    ClickCell(2, 1);
-    Key(Qt::Key_F2);
-    Key(Qt::Key_Return);
-    EXPECT_EQ(TheSimulation().Feeds[0].Qty.Value(), 8.75);
-    EXPECT_TRUE(Messages().empty());
-}
-
-TEST_F(Grids, AGridForLookingAtIsOnlyCopiedFrom) {
-    OpenCow("Feeds");
-    Click("frmFeeds.cmdAddFeed");
-    Mark("frmAddFeed.lstCategory(0)", Model<ListBox>("frmAddFeed.lstCategory(0)").List(0));
-    auto& table = Widget<QTableView>("frmAddFeed.grdFeedValues");
-    table.setFocus(Qt::TabFocusReason);
-    Settle();
-    Type("7");
-    Key(Qt::Key_F2);
-    Key(Qt::Key_Delete);
-    EXPECT_FALSE(Model<Grid>("frmAddFeed.grdFeedValues").IsEditing());
-    Key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(Copied(), Model<Grid>("frmAddFeed.grdFeedValues").TextMatrix(1, 1) + "\n");
-    Key(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_TRUE(Messages().empty());
-    // Enter is the default button's.
-    Key(Qt::Key_Return);
-    EXPECT_EQ(TheForms().Find("frmAddFeed"), nullptr);
-    for (const Said& said : Messages())
-        EXPECT_EQ(said.Title, "Feed Already Selected");
 }
 
 // The periodic save shows the first feed; what is typed must not become that one's.

@@ -5,6 +5,8 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTimer>
+#include <algorithm>
 
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
@@ -23,10 +25,7 @@ bool OnlyInforms(const QWidget& dialog) {
 
 }  // namespace
 
-Respondent::Respondent() {
-    connect(&timer_, &QTimer::timeout, this, [this] { Look(); });
-    timer_.start(kLookEvery);
-}
+Respondent::Respondent() { Look(); }
 
 void Respondent::Press(QMessageBox::StandardButton button) {
     Do([button](QWidget& dialog) {
@@ -43,13 +42,14 @@ void Respondent::Press(QMessageBox::StandardButton button) {
 
 void Respondent::ChooseFile(const std::string& path) {
     Do([path](QWidget& dialog) {
+        auto* const box = qobject_cast<QFileDialog*>(&dialog);
         auto* const name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        if (qobject_cast<QFileDialog*>(&dialog) == nullptr || name == nullptr) {
+        if (box == nullptr || name == nullptr) {
             ADD_FAILURE() << "no file dialog to choose " << path << " in";
             Escape(dialog);
             return;
         }
-        name->setText(QString::fromStdString(path));
+        box->selectFile(QString::fromStdString(path));
         QTest::keyClick(name, Qt::Key_Return);
     });
 }
@@ -83,22 +83,30 @@ std::vector<Said> Respondent::TakeSaid() { return std::exchange(said_, {}); }
 // A menu that nobody has an answer for is one that the test itself has opened.
 QWidget* Respondent::Asking() const {
     if (QWidget* const popUp = QApplication::activePopupWidget()) {
+        if (always_) return popUp;
         const bool wanted = !answers_.empty() && answers_.front().ToMenu;
         return wanted ? qobject_cast<QMenu*>(popUp) : nullptr;
     }
     return qobject_cast<QDialog*>(QApplication::activeModalWidget());
 }
 
+// A timer of its own each time: one whose event is being dealt with doesn't tick.
 void Respondent::Look() {
+    QTimer::singleShot(kLookEvery, this, [this] { Look(); });
     QWidget* const dialog = Asking();
-    if (busy_ || dialog == nullptr || !dialog->isVisible()) return;
+    if (dialog == nullptr || !dialog->isVisible()) return;
+    if (std::find(inHand_.begin(), inHand_.end(), dialog) != inHand_.end()) return;
     if (const auto* const box = qobject_cast<QMessageBox*>(dialog)) Note(*box);
-    busy_ = true;
+    inHand_.push_back(dialog);
     Answer(*dialog);
-    busy_ = false;
+    inHand_.pop_back();
 }
 
 void Respondent::Answer(QWidget& dialog) {
+    if (always_) {
+        always_(dialog);
+        return;
+    }
     if (OnlyInforms(dialog) && answers_.empty()) {
         QTest::mouseClick(qobject_cast<QMessageBox*>(&dialog)->button(QMessageBox::Ok),
                           Qt::LeftButton);

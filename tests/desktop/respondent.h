@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QMessageBox>
-#include <QTimer>
+#include <QObject>
 #include <deque>
 #include <functional>
 #include <string>
@@ -35,6 +35,9 @@ class Respondent : public QObject {
     void Do(std::function<void(QWidget&)> answer);
     void DoInMenu(std::function<void(QWidget&)> answer);
 
+    // Every dialog and menu from now on.
+    void Always(std::function<void(QWidget&)> answer) { always_ = std::move(answer); }
+
     // What has been said since the last call.
     std::vector<Said> TakeSaid();
     // All answers have been asked for.
@@ -46,7 +49,6 @@ class Respondent : public QObject {
     void Answer(QWidget& dialog);
     void Note(const QMessageBox& box);
 
-    QTimer timer_;
     struct Reply {
         std::function<void(QWidget&)> Give;
         bool ToMenu = false;
@@ -55,8 +57,9 @@ class Respondent : public QObject {
     QWidget* Asking() const;
 
     std::deque<Reply> answers_;
+    std::function<void(QWidget&)> always_;
     std::vector<Said> said_;
-    bool busy_ = false;
+    std::vector<QWidget*> inHand_;  // a dialog may open another one
 };
 
 }  // namespace tav
