@@ -19,7 +19,7 @@ cleanup() {
 }
 trap cleanup EXIT
 mkfifo "$work/number"
-Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$work/number" 2>/dev/null &
+Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -noreset 3>"$work/number" 2>/dev/null &
 server=$!
 read -r number <"$work/number"
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8

@@ -5,9 +5,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
 
 namespace tav {
 namespace {
+
+constexpr int kDialogWidth = 760;
+constexpr int kDialogHeight = 480;
 
 // "Captions (*.tav)|*.tav" as Qt wants it. A pattern of all files names them without a point.
 QStringList FiltersOf(const std::string& filter) {
@@ -45,7 +50,17 @@ QString SuffixOf(const CommonDialog& dialog) {
                                                                                   : suffix;
 }
 
+// Names whole, the rest as wide as it needs.
+void FitColumns(const QFileDialog& box) {
+    auto* const table = box.findChild<QTreeView*>();
+    if (table == nullptr) return;
+    table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 bool Choose(QFileDialog& box, CommonDialog& dialog) {
+    box.resize(kDialogWidth, kDialogHeight);
+    FitColumns(box);
     if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return false;
     const QString file = QDir::toNativeSeparators(box.selectedFiles().constFirst());
     dialog.FileName = PathFromQt(file);
@@ -68,6 +83,7 @@ bool ChoosePlaceToSave(CommonDialog& dialog, QWidget* over) {
     QFileDialog box(over);
     box.setAcceptMode(QFileDialog::AcceptSave);
     box.setFileMode(QFileDialog::AnyFile);
+    box.setLabelText(QFileDialog::LookIn, QStringLiteral("Save in:"));
     box.setDefaultSuffix(SuffixOf(dialog));
     if ((dialog.Flags & CommonDialog::kOverwritePrompt) == 0) {
         box.setOption(QFileDialog::DontConfirmOverwrite);

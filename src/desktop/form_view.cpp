@@ -36,10 +36,12 @@ FormView::FormView(Form& form, QWidget* pane, QWidget* surface)
     pane_->installEventFilter(this);
 }
 
-// The widgets first: a view must be there for as long as its widget can send anything.
+// The widgets first: a view must be there for as long as its widget can send anything. Those of a
+// screen may have gone with the main window.
 FormView::~FormView() {
     for (const auto& view : views_)
         view->StopListening();
+    if (!pane_) return;
     surface_->removeEventFilter(this);
     pane_->removeEventFilter(this);
     delete pane_;

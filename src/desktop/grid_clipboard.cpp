@@ -1,5 +1,6 @@
 #include "desktop/grid_clipboard.h"
 
+#include "core/number_text.h"
 #include "desktop/desktop.h"
 #include "desktop/text.h"
 
@@ -99,6 +100,16 @@ class Quiet {
     std::vector<Message> End() { return TheDesktop().Platform().CollectMessages(false); }
 };
 
+// As a user would type it: without blanks around it, and a share without its sign.
+std::string Typed(const QString& cell) {
+    QString text = cell.trimmed();
+    if (text.endsWith(QLatin1Char('%'))) {
+        const QString number = text.chopped(1).trimmed();
+        if (IsNumeric(FromQt(number))) text = number;
+    }
+    return FromQt(text);
+}
+
 // Enters one cell as if it had been typed. False if it wasn't taken.
 bool Enter(Grid& grid, int row, int col, const std::string& text) {
     if (row >= grid.Rows() || col >= grid.Cols()) return false;
@@ -112,14 +123,17 @@ bool Enter(Grid& grid, int row, int col, const std::string& text) {
 QString PlaceName(const Grid& grid, int row, int col) {
     if (row >= grid.Rows() || col >= grid.Cols()) return QStringLiteral("Beyond the grid");
     QStringList parts;
-    if (grid.FixedCols > 0) parts += ToQt(grid.TextMatrix(row, 0));
-    if (grid.FixedRows > 0) parts += ToQt(grid.TextMatrix(0, col));
-    return parts.join(QStringLiteral(", "));
+    if (grid.FixedCols > 0) parts += ToQt(grid.TextMatrix(row, 0)).simplified();
+    if (grid.FixedRows > 0) parts += ToQt(grid.TextMatrix(0, col)).simplified();
+    parts.removeAll(QString());
+    return parts.isEmpty() ? QStringLiteral("Row %1").arg(row + 1)
+                           : parts.join(QStringLiteral(", "));
 }
 
 QString Refusal(const Grid& grid, int row, int col, const QString& text,
                 const std::vector<Message>& said) {
     QString line = QStringLiteral("%1: \"%2\"").arg(PlaceName(grid, row, col), text);
+    if (said.empty()) line += QStringLiteral(" - this cell can't be entered");
     for (const Message& message : said)
         line += QStringLiteral(" - ") + ToQt(message.Text).simplified();
     return line;
@@ -157,7 +171,7 @@ void PasteCells(Grid& grid, int row, int col,
                 const int atCol = col + static_cast<int>(j);
                 const QString& text = rows[i][j];
                 Quiet quiet;
-                const bool taken = Enter(grid, atRow, atCol, FromQt(text));
+                const bool taken = Enter(grid, atRow, atCol, Typed(text));
                 if (!taken) refused += Refusal(grid, atRow, atCol, text, quiet.End());
             }
         }

@@ -15,8 +15,9 @@
 namespace tav {
 namespace {
 
-constexpr int kCellPadding = 14;   // pixels on both sides together
-constexpr int kRowPadding = 6;     // above and below together
+constexpr int kCellPadding = 14;  // pixels on both sides together
+constexpr int kRowPadding = 6;    // above and below together
+constexpr int kCornerMargin = 2;
 constexpr int kHeaderPadding = 6;  // what a header needs more than a cell
 
 bool BeginsEntry(const QKeyEvent& key) {
@@ -31,7 +32,11 @@ GridView::GridView(Grid& model, QWidget& parent, FormView& form)
     : GridView(model, new QTableView(&parent), form) {}
 
 GridView::GridView(Grid& model, QTableView* table, FormView& form)
-    : ControlView(model, *table, form), model_(model), table_(*table), cells_(model) {
+    : ControlView(model, *table, form),
+      model_(model),
+      table_(*table),
+      cells_(model),
+      corner_(new QLabel(table)) {
     SetUpTable();
     AddActions();
     Watch(*table);
@@ -46,6 +51,9 @@ GridView::GridView(Grid& model, QTableView* table, FormView& form)
 }
 
 void GridView::SetUpTable() {
+    corner_->setTextFormat(Qt::PlainText);
+    corner_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    corner_->setMargin(kCornerMargin);
     table_.setModel(&cells_);
     table_.setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_.setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -95,6 +103,7 @@ void GridView::SyncContent() {
         FitRows();
         FitColumns();
     }
+    FitCorner();
     SyncCursor();
     syncing_ = false;
     if (!model_.IsEditing() && !closing_) RemoveEditor();
@@ -115,6 +124,17 @@ void GridView::FitRows() {
         std::max(Pixels(model_.RowHeight), QFontMetrics(table_.font()).height() + kRowPadding);
     table_.verticalHeader()->setMinimumSectionSize(height);
     table_.verticalHeader()->setDefaultSectionSize(height);
+}
+
+void GridView::FitCorner() {
+    const QHeaderView& rows = *table_.verticalHeader();
+    const QHeaderView& cols = *table_.horizontalHeader();
+    const bool both = model_.FixedRows > 0 && model_.FixedCols > 0 && model_.Cols() > 0;
+    corner_->setVisible(both);
+    if (!both) return;
+    corner_->setFont(table_.font());
+    corner_->setText(cells_.TextAt(0, 0));
+    corner_->setGeometry(table_.frameWidth(), table_.frameWidth(), rows.width(), cols.height());
 }
 
 int GridView::ContentWidth(int gridCol) const {
@@ -189,15 +209,22 @@ bool GridView::TableEvent(QEvent& event) {
         // A refused entry keeps the cursor.
         case QEvent::MouseButtonPress: return editor_ && !Close();
         case QEvent::MouseButtonDblClick: Open(nullptr); return true;
-        case QEvent::Resize: FitColumns(); return false;
+        case QEvent::Resize:
+            FitColumns();
+            FitCorner();
+            return false;
         default: return false;
     }
 }
 
 bool GridView::KeyOnTable(const QKeyEvent& key) {
     switch (key.key()) {
-        case Qt::Key_Tab: return MoveOn(1);
-        case Qt::Key_Backtab: return MoveOn(-1);
+        case Qt::Key_Tab:
+            if (key.modifiers().testFlag(Qt::ControlModifier)) return LeaveGrid(1);
+            return MoveOn(1);
+        case Qt::Key_Backtab:
+            if (key.modifiers().testFlag(Qt::ControlModifier)) return LeaveGrid(-1);
+            return MoveOn(-1);
         case Qt::Key_F2: Open(nullptr); return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -224,6 +251,21 @@ bool GridView::MoveOn(int steps) {
     const int place = at.row() * columns + at.column() + steps;
     if (place < 0 || place >= columns * cells_.rowCount()) return false;
     table_.setCurrentIndex(cells_.index(place / columns, place % columns));
+    return true;
+}
+
+bool GridView::LeaveGrid(int step) {
+    const std::vector<Control*>& all = model_.Owner().Controls();
+    const auto count = static_cast<int>(all.size());
+    int place = static_cast<int>(std::find(all.begin(), all.end(), &model_) - all.begin());
+    for (int i = 1; i < count; ++i) {
+        place = (place + step + count) % count;
+        const Control& next = *all[static_cast<std::size_t>(place)];
+        ControlView* const view = TheForm().ViewOf(next);
+        if (view == nullptr || !next.TakesFocus() || !next.IsUsable()) continue;
+        view->FocusWidget()->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        break;
+    }
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/grid_cells.h"
 #include "forms/grid.h"
 
+#include <QLabel>
 #include <QPointer>
 #include <QTableView>
 
@@ -34,6 +35,7 @@ class GridView : public ControlView {
     void SyncCursor();
     void FitColumns();
     void FitRows();
+    void FitCorner();
     int ContentWidth(int gridCol) const;
 
     bool TableEvent(QEvent& event);
@@ -47,6 +49,8 @@ class GridView : public ControlView {
     // end of the grid.
     bool MoveOn(int steps);
     void MoveDown(int rows);
+    // To the next or the previous control of the form.
+    bool LeaveGrid(int step);
 
     // Opens the cell under the cursor, with its text or with what has been typed.
     void Open(const QString* typed);
@@ -63,6 +67,7 @@ class GridView : public ControlView {
     Grid& model_;
     QTableView& table_;
     GridCells cells_;
+    QLabel* corner_;  // the text of the cell in which the headers meet
     QPointer<QWidget> editor_;
     QList<QAction*> actions_;
     bool syncing_ = false;

@@ -1,5 +1,7 @@
 #include "desktop/help_panel.h"
 
+#include "desktop/text.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -37,7 +39,7 @@ HelpPanel::HelpPanel(const QString& caption, QWidget* parent)
 
 void HelpPanel::Offer(const QString& text, const HelpTarget& target) {
     auto* const item = new QListWidgetItem(text, list_);
-    item->setToolTip(text.toHtmlEscaped());
+    item->setToolTip(ToolTipText(text));
     item->setData(kPageRole, target.Page);
     item->setData(kSectionRole, target.Section);
     if (list_->currentItem() == nullptr) list_->setCurrentItem(item);

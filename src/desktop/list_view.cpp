@@ -3,6 +3,8 @@
 #include "desktop/form_view.h"
 #include "desktop/text.h"
 
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
@@ -21,10 +23,39 @@ class RoomyLines : public QStyledItemDelegate {
     }
 };
 
+// Letters lead to the line that begins with them. Where lines are marked, only Space and the mouse
+// mark one.
+class SearchedList : public QListWidget {
+  public:
+    using QListWidget::QListWidget;
+
+    void keyboardSearch(const QString& typed) override {
+        if (selectionMode() != MultiSelection) {
+            QListWidget::keyboardSearch(typed);
+            return;
+        }
+        if (!sinceKey_.isValid() || sinceKey_.elapsed() > QApplication::keyboardInputInterval()) {
+            wanted_.clear();
+        }
+        sinceKey_.start();
+        wanted_ += typed;
+        const int from = std::max(currentRow(), 0) + (wanted_.size() == typed.size() ? 1 : 0);
+        const QModelIndexList hits =
+            model()->match(model()->index(from % std::max(count(), 1), 0), Qt::DisplayRole, wanted_,
+                           1, Qt::MatchStartsWith | Qt::MatchWrap);
+        if (hits.isEmpty()) return;
+        selectionModel()->setCurrentIndex(hits.front(), QItemSelectionModel::NoUpdate);
+    }
+
+  private:
+    QString wanted_;
+    QElapsedTimer sinceKey_;
+};
+
 }  // namespace
 
 ListView::ListView(ListBox& model, QWidget& parent, FormView& form)
-    : ListView(model, new QListWidget(&parent), form) {}
+    : ListView(model, new SearchedList(&parent), form) {}
 
 ListView::ListView(ListBox& model, QListWidget* list, FormView& form)
     : ControlView(model, *list, form), model_(model), list_(*list) {

@@ -81,7 +81,7 @@ void MenuBar::Sync() {
     for (const auto& [item, action] : actions_) {
         action->setVisible(item->Visible);
         action->setEnabled(item->Enabled);
-        if (item->Checked && !action->isCheckable()) action->setCheckable(true);
+        action->setCheckable(item->Checkable);
         // Choosing a checkable entry has ticked it; what counts is the program's mark.
         action->setChecked(item->Checked);
     }

@@ -26,10 +26,7 @@ NumericView::NumericView(NumericTextBox& model, QLineEdit* edit, FormView& form)
     QObject::connect(edit, &QLineEdit::textEdited, [this](QString text) {
         // A cell from a spreadsheet comes with the end of its line.
         text.replace(QLatin1Char('\n'), QLatin1Char(' '));
-        Perform([this, &text] {
-            model_.Refusal.clear();
-            model_.UserType(FromQt(text));
-        });
+        Perform([this, &text] { model_.UserType(FromQt(text)); });
     });
 }
 
@@ -52,7 +49,8 @@ std::optional<int> NumericView::OwnHeight() const {
 }
 
 QString NumericView::Shown() const {
-    return ToQt(model_.IsBeingEdited() ? model_.EditText() : model_.Text);
+    if (!model_.IsBeingEdited()) return ToQt(model_.Text);
+    return ToQt(model_.RefusedText().empty() ? model_.EditText() : model_.RefusedText());
 }
 
 void NumericView::SyncContent() {

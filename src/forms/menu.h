@@ -24,6 +24,7 @@ class MenuItem : public CaptionedControl {
     }
     ControlKind Kind() const override { return ControlKind::Menu; }
 
+    bool Checkable = false;  // shows whether it is checked
     bool Checked = false;
 
     // The entries of this menu in their order.

@@ -54,6 +54,7 @@ void NumericTextBox::UserEnter() {
     if (editing_ || Owner().Focus() != this) return;
     editing_ = true;
     typed_ = false;
+    refusedText_.clear();
     editText_ = Text;
 }
 
@@ -61,9 +62,13 @@ void NumericTextBox::UserType(std::string_view text) {
     RequireUsable();
     if (!editing_) UserEnter();
     if (!MayBecomeNumber(Trimmed(text), Trimmed(Units))) {
-        Refusal = "Enter a number.";
+        refusedText_ = text;
+        const bool comma = DecimalSeparator() == '.' && text.find(',') != std::string_view::npos;
+        Refusal = comma ? "Enter a number with a decimal point." : "Enter a number.";
         return;
     }
+    refusedText_.clear();
+    Refusal.clear();
     editText_ = text;
     typed_ = true;
 }
@@ -71,7 +76,7 @@ void NumericTextBox::UserType(std::string_view text) {
 void NumericTextBox::FinishEntry() {
     if (!editing_) return;
     editing_ = false;
-    if (!typed_) return;
+    if (!typed_ || !refusedText_.empty()) return;
     typed_ = false;
     const std::string number = NumberPart(editText_);
     if (!IsNumeric(number)) {

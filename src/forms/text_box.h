@@ -47,7 +47,8 @@ class NumericTextBox : public Control {
     std::function<void()> ValueEntered;  // a value has been entered and taken
 
     // What stands in the field while the user is at it. A text with other characters than digits,
-    // one separator, a leading sign and the unit isn't taken into the field.
+    // one separator, a leading sign and the unit isn't taken into the field, and unless another one
+    // follows, nothing is: half of what was meant is never a value.
     void UserType(std::string_view text);
     void UserEnter() override;
     void FinishEntry() override;
@@ -55,6 +56,8 @@ class NumericTextBox : public Control {
     // Whether the user is at it, and what stands in the field then; the view shows that.
     bool IsBeingEdited() const { return editing_; }
     const std::string& EditText() const { return editText_; }
+    // What was typed last if it wasn't taken into the field, for the view to leave it to be mended.
+    const std::string& RefusedText() const { return refusedText_; }
 
   private:
     std::string NumberPart(std::string_view text) const;
@@ -62,6 +65,7 @@ class NumericTextBox : public Control {
     std::string editText_;
     bool editing_ = false;
     bool typed_ = false;
+    std::string refusedText_;
 };
 
 }  // namespace tav

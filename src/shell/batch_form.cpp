@@ -1,5 +1,6 @@
 #include "shell/batch_form.h"
 
+#include "core/main_window.h"
 #include "core/number_text.h"
 #include "core/program_state.h"
 #include "core/simulation_file.h"
@@ -175,6 +176,7 @@ void BatchForm::ChooseOutput() {
 }
 
 void BatchForm::RunBatchFiles() {
+    recordReplaced_ = recordReplaced_ || !BatchFiles.empty();
     MessageWatcher watcher;
     std::size_t next = 0;
     const NextFile files = [&]() -> std::optional<std::string> {
@@ -198,5 +200,11 @@ void BatchForm::cmdRun_Click() {
 }
 
 void BatchForm::cmdReturn_Click() { TheForms().Unload(Name()); }
+
+// The screen behind shows what the batch has left in the record, so that it doesn't store the
+// animal and the quantities of before over it.
+void BatchForm::Form_Unload(bool& /*cancel*/) {
+    if (recordReplaced_) TheMainWindow().SetUpScreen(TheProgram().CurrentScreen);
+}
 
 }  // namespace tav

@@ -53,6 +53,9 @@ class BatchForm : public Form {
 
     void Form_Load() override;
     void Form_Activate() override;
+    void Form_Unload(bool& cancel) override;
+
+    bool recordReplaced_ = false;  // a batch has been run, to its end or not
 };
 
 }  // namespace tav

@@ -49,6 +49,8 @@ void ParentForm::TieFileMenu() {
     mnuSaveSimulation.Click = [] { SaveSimulationCommand(); };
     mnuSaveSimulationAs.Click = [] { SaveSimulationAsCommand(); };
     mnuSaveAsDefault.Click = [] { SaveDefaultSimulation(); };
+    mnuAutoSave.Checkable = true;
+    mnuPeriodicAutoSave.Checkable = true;
     mnuAutoSave.Click = [this] { mnuAutoSave_Click(); };
     mnuPeriodicAutoSave.Click = [this] { mnuPeriodicAutoSave_Click(); };
     mnuExitProgram.Click = [this] { mnuExitProgram_Click(); };

@@ -69,7 +69,7 @@ expect_in() { grep -qF -- "$2" "$1" || fail "\"$2\" is not in $1"; }
 
 # A display of its own, on the first free number.
 mkfifo "$work/number"
-Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$work/number" 2>"$work/server" &
+Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -noreset 3>"$work/number" 2>"$work/server" &
 server=$!
 read -r number <"$work/number"
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$work LC_ALL=C.UTF-8 HOME=$work

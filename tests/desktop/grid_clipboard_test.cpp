@@ -43,6 +43,12 @@ TEST_F(Grids, ABlockIsPastedAndWhatWasRefusedIsListedOnce) {
     EXPECT_NE(said.Text.find("This value cannot be negative."), std::string::npos);
     EXPECT_EQ(Editor(), nullptr);
 
+    // A share comes back as it was copied, with its sign.
+    ClickCell(3, 2);
+    Paste(" 12.50 %\n");
+    ClickCell(2, 1);
+    EXPECT_EQ(Cell(3, 2), "12.50 %");
+
     // Beyond the last cell.
     ClickCell(TheGrid().Rows() - 1, 2);
     Paste("1\t2\n3\t4");

@@ -69,8 +69,9 @@ TEST_F(NumericBoxes, WhatIsNoNumberStaysOutAndIsSaid) {
     OpenDescription();
     Click(Weight());
     Type("6x");
-    EXPECT_EQ(Weight().text().toStdString(), "6");
+    EXPECT_EQ(Weight().text().toStdString(), "6x");
     EXPECT_EQ(Note(), "Enter a number.");
+    Key(Qt::Key_Backspace);
     Type("4");
     EXPECT_EQ(Weight().text().toStdString(), "64");
     EXPECT_EQ(Note(), "");
@@ -85,6 +86,20 @@ TEST_F(NumericBoxes, WhatIsNoNumberStaysOutAndIsSaid) {
     EXPECT_EQ(Text(), "600 kg");
     EXPECT_EQ(Note(), "");
     EXPECT_EQ(Weight().accessibleDescription().toStdString(), "");
+}
+
+// A sign that isn't this country's makes no other number of what was meant.
+TEST_F(NumericBoxes, AForeignSeparatorRescalesNothing) {
+    OpenDescription();
+    Click(Weight());
+    Type("650,5");
+    EXPECT_EQ(Weight().text().toStdString(), "650,5");
+    EXPECT_EQ(Note(), "Enter a number with a decimal point.");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Text(), "650 kg");
+    EXPECT_EQ(Weight().text().toStdString(), "650 kg");
+    Enter("frmInputs.txtBodyWeight", "700 lbs");
+    EXPECT_EQ(Text(), "650 kg");
 }
 
 // The note belongs to what is on show: another page has its own.

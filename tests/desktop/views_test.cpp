@@ -134,6 +134,9 @@ TEST_F(Views, AListWithSeveralMarksKeepsWhatTheProgramTakesBack) {
     Key(Qt::Key_Space);
     EXPECT_TRUE(list.Selected(2));
     EXPECT_EQ(all(), 1);
+    // Letters lead to a line and mark nothing.
+    Type(list.List(0).substr(0, 1));
+    EXPECT_EQ(all(), 1);
 
     // A cow gets no calf feed: the mark is gone again when the message has been read.
     auto& calf = Model<ListBox>("frmAddFeed.lstCategory(8)");

@@ -65,6 +65,23 @@ TEST_F(NumericTextBoxTest, RefusesWhatIsNoNumberAndSaysWhy) {
     EXPECT_TRUE(Box.Refusal.empty());
 }
 
+// Key by key, as hands do it: what came before the wrong sign is no value by itself.
+TEST_F(NumericTextBoxTest, HalfOfARefusedTextIsNeverTaken) {
+    Box.UserType("6");
+    Box.UserType("600");
+    Box.UserType("600,");
+    EXPECT_EQ(Box.RefusedText(), "600,");
+    EXPECT_EQ(Box.Refusal, "Enter a number with a decimal point.");
+    Box.UserLeave();
+    EXPECT_EQ(Box.Text, "650 kg");
+    EXPECT_EQ(Entered, 0);
+    Box.UserType("600,");
+    Box.UserType("600");
+    EXPECT_TRUE(Box.RefusedText().empty());
+    Box.UserLeave();
+    EXPECT_EQ(Entered, 1);
+}
+
 TEST_F(NumericTextBoxTest, TakesTheUnitBehindTheNumber) {
     EXPECT_EQ(Type("700 kg"), "700 kg");
     EXPECT_EQ(Type("710kg "), "710 kg");
