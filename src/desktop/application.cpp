@@ -5,6 +5,7 @@
 #include "desktop/own_folder.h"
 #include "desktop/pictures.h"
 #include "desktop/printing.h"
+#include "desktop/signals.h"
 #include "desktop/theme.h"
 #include "desktop/user_locale.h"
 #include "desktop/whats_this.h"
@@ -56,6 +57,7 @@ int RunDesktop(int argc, char** argv) {
     QCoreApplication::setApplicationName(QStringLiteral("TAV Dairy Cattle Program"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tav-dairy"));
     SetUpDesktop();
+    EndOnSignals();
     if (OfferOwnFolder()) return 0;
     TheDesktop().Start();
     return TheProgram().Ended ? ExitStatus() : QApplication::exec();
