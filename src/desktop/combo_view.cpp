@@ -41,7 +41,17 @@ bool ComboView::eventFilter(QObject* watched, QEvent* event) {
         event->ignore();
         return true;
     }
+    if (event->type() == QEvent::KeyPress && OpensList(*static_cast<QKeyEvent*>(event))) {
+        box_.showPopup();
+        return true;
+    }
     return ControlView::eventFilter(watched, event);
+}
+
+// The arrows open the list instead of choosing one entry after the other on the way, each of which
+// may have a question to ask.
+bool ComboView::OpensList(const QKeyEvent& key) const {
+    return (key.key() == Qt::Key_Down || key.key() == Qt::Key_Up) && box_.count() > 0;
 }
 
 bool ComboView::ConsumesKey(const QKeyEvent& key) const { return key.key() == Qt::Key_Escape; }

@@ -22,6 +22,7 @@ class ComboView : public ControlView {
 
   private:
     ComboView(ComboBox& model, QComboBox* box, FormView& form);
+    bool OpensList(const QKeyEvent& key) const;
 
     ComboBox& model_;
     QComboBox& box_;
