@@ -95,37 +95,6 @@ TEST_F(WorkedSupply, TheFactorsDoNotStandAlone) {
     }
 }
 
-TEST_F(WorkedSupply, AminoAcids) {
-    SimulationRecord& r = Cow(kLactatingCow, 2);
-    Feed(r);
-    for (Single* const flow : {&r.ArgFlow, &r.HisFlow, &r.IleFlow, &r.LeuFlow, &r.LysFlow,
-                               &r.MetFlow, &r.PheFlow, &r.ThrFlow, &r.ValFlow})
-        *flow = 100;
-    r.DigArgFlow = 80;
-    r.DigValFlow = 60.4;
-    r.ArgPctMP = 4.5;
-    r.ValPctMP = 5.25;
-    r.TotalEAAFlow = 930;
-    const std::string metric = Body("Duodenal Amino Acid Supply", true);
-    EXPECT_LINE(metric, "Total Dry Matter Intake :  20.0 kg");
-    EXPECT_LINE(metric, "Total RUP :  700 g/day");
-    EXPECT_LINE(metric, "Total MCP :  1250 g/day");
-    EXPECT_LINE(metric, "Amino Acid | Flow (g/day) | DIGAA Flow (g/day) | Percent of MP");
-    EXPECT_LINE(metric, "Arginine | 100 | 80 | 4.50%");
-    EXPECT_NE(metric.find("\nValine | 100 | 60 | 5.25%\n\nTotals | 900 | 140 | 9.75%\n"),
-              std::string::npos);
-    EXPECT_LINE(metric, "Total Essential Amino Acids :  930 (g/day)");
-    EXPECT_EQ(metric.find("Tryptophan"), std::string::npos);
-    const std::string english = Body("Duodenal Amino Acid Supply", false);
-    EXPECT_LINE(english, "Total Dry Matter Intake :  44.1 lbs");
-    EXPECT_LINE(english, "Total RUP :  1.543 lbs/day");
-    EXPECT_LINE(english, "Total MCP :  2.756 lbs/day");
-    EXPECT_LINE(english, "Amino Acid | Flow (lbs/day) | DIGAA Flow (lbs/day) | Percent of MP");
-    EXPECT_LINE(english, "Valine | 0.220 | 0.133 | 5.25%");
-    EXPECT_LINE(english, "Totals | 1.984 | 0.310 | 9.75%");
-    EXPECT_LINE(english, "Total Essential Amino Acids :  2.050 (lbs/day)");
-}
-
 TEST_F(WorkedSupply, SummaryOfABredHeifer) {
     SimulationRecord& r = Cow(kReplacementHeifer, 0);
     Feed(r);
